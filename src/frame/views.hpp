@@ -1,0 +1,227 @@
+// views.hpp: typed operands. A view knows where element (i, j) of object k lies in one of the three layouts, and hands out
+// objects; an object hands out elements and rows. Strides and shifts count bytes, and all addresses are formed in ptrdiff_t.
+//
+//   StridedView<T, adjacent, array>   one pointer and strides; a single object is the same without stride0
+//   ListView<T, adjacent>             one pointer per object
+//   TableView<T, array>               one pointer per element of an object
+//   transposed(view)                  exchanges i and j
+//
+// `adjacent`: the element stride is known to be the element size. T is const for sources.
+#pragma once
+#include <cstddef>
+#include <type_traits>
+
+#include "simd/row.hpp"
+
+namespace zelm {
+
+using Bytes = std::ptrdiff_t;
+
+template <class T>
+ZELM_INLINE T* moved(T* p, Bytes bytes) {
+  using Byte = std::conditional_t<std::is_const_v<T>, const char, char>;
+  return reinterpret_cast<T*>(reinterpret_cast<Byte*>(p) + bytes);
+}
+
+/// A matrix whose elements lie at fixed distances; of a vector, the one row.
+template <class Element, bool adjacent>
+struct StridedObject {
+  using T = std::remove_const_t<Element>;
+  static constexpr bool plain = adjacent;  // rows are runs of memory
+  static constexpr bool turned = false;
+  Element* base;
+  Bytes row_stride, element_stride;
+
+  ZELM_INLINE Element* at(int i, int j) const {
+    return moved(base, i * row_stride + j * (adjacent ? Bytes(sizeof(T)) : element_stride));
+  }
+  template <int N>
+  ZELM_INLINE Row<T, N> row(int i) const {
+    if constexpr (adjacent) return Row<T, N>::load(at(i, 0));
+    else return Row<T, N>::gather([&](int j) { return at(i, j); });
+  }
+  template <int N>
+  ZELM_INLINE void set_row(int i, const Row<T, N>& r) const {
+    if constexpr (adjacent) r.store(at(i, 0));
+    else r.scatter([&](int j) { return at(i, j); });
+  }
+};
+
+/// A matrix given by a pointer to each of its elements, row by row, all moved by `shift`.
+template <class Element>
+struct TableObject {
+  using T = std::remove_const_t<Element>;
+  static constexpr bool plain = false;
+  static constexpr bool turned = false;
+  Element* const* table;
+  Bytes shift;
+  int columns;
+
+  ZELM_INLINE Element* at(int i, int j) const { return moved(table[std::ptrdiff_t(i) * columns + j], shift); }
+  template <int N>
+  ZELM_INLINE Row<T, N> row(int i) const {
+    return Row<T, N>::gather([&](int j) { return at(i, j); });
+  }
+  template <int N>
+  ZELM_INLINE void set_row(int i, const Row<T, N>& r) const {
+    r.scatter([&](int j) { return at(i, j); });
+  }
+};
+
+template <class Object>
+struct TransposedObject {
+  using T = typename Object::T;
+  static constexpr bool plain = false;
+  static constexpr bool turned = true;
+  Object stored;
+
+  ZELM_INLINE auto at(int i, int j) const { return stored.at(j, i); }
+  template <int N>
+  ZELM_INLINE Row<T, N> row(int i) const {
+    return Row<T, N>::gather([&](int j) { return at(i, j); });
+  }
+};
+
+template <class Element, bool adjacent, bool is_array>
+struct StridedView {
+  using T = std::remove_const_t<Element>;
+  using Object = StridedObject<Element, adjacent>;
+  static constexpr bool array = is_array, plain = adjacent;
+  Element* first;
+  Bytes stride0, row_stride, element_stride;
+
+  ZELM_INLINE Object object(std::ptrdiff_t k) const {
+    return {array ? moved(first, k * stride0) : first, row_stride, element_stride};
+  }
+  /// True if all elements of all objects form one run of memory without a gap, row by row and object by object.
+  ZELM_INLINE bool tight(int rows, int columns) const {
+    if constexpr (!adjacent) return false;
+    const Bytes row = columns * Bytes(sizeof(T));
+    return (rows == 1 || row_stride == row) && stride0 == rows * row;
+  }
+  /// True if equal elements of neighbouring objects lie side by side.
+  ZELM_INLINE bool interleaved() const { return array && stride0 == Bytes(sizeof(T)); }
+};
+
+template <class Element, bool adjacent>
+struct ListView {
+  using T = std::remove_const_t<Element>;
+  using Object = StridedObject<Element, adjacent>;
+  static constexpr bool array = true, plain = false;
+  Element* const* objects;
+  Bytes shift, row_stride, element_stride;
+
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {moved(objects[k], shift), row_stride, element_stride}; }
+  ZELM_INLINE bool tight(int, int) const { return false; }
+  ZELM_INLINE bool interleaved() const { return false; }
+};
+
+template <class Element, bool is_array>
+struct TableView {
+  using T = std::remove_const_t<Element>;
+  using Object = TableObject<Element>;
+  static constexpr bool array = is_array, plain = false;
+  Element* const* table;
+  Bytes shift, stride0;
+  int columns;
+
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {table, array ? shift + k * stride0 : shift, columns}; }
+  ZELM_INLINE bool tight(int, int) const { return false; }
+  ZELM_INLINE bool interleaved() const { return array && stride0 == Bytes(sizeof(T)); }
+};
+
+template <class View>
+struct TransposedView {
+  using T = typename View::T;
+  using Object = TransposedObject<typename View::Object>;
+  static constexpr bool array = View::array, plain = false;
+  View stored;
+
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {stored.object(k)}; }
+  ZELM_INLINE bool tight(int, int) const { return false; }
+  ZELM_INLINE bool interleaved() const { return stored.interleaved(); }
+};
+
+template <class View>
+ZELM_INLINE TransposedView<View> transposed(View view) {
+  return {view};
+}
+
+// Makers, in the order of the argument groups. Without an element stride the elements are adjacent.
+
+template <class E>
+ZELM_INLINE StridedView<E, true, false> matrix(E* p, int stride1) { return {p, 0, stride1, sizeof(E)}; }
+template <class E>
+ZELM_INLINE StridedView<E, false, false> matrix(E* p, int stride1, int stride2) { return {p, 0, stride1, stride2}; }
+template <class E>
+ZELM_INLINE StridedView<E, true, true> matrices(E* p, int stride0, int stride1) { return {p, stride0, stride1, sizeof(E)}; }
+template <class E>
+ZELM_INLINE StridedView<E, false, true> matrices(E* p, int stride0, int stride1, int stride2) {
+  return {p, stride0, stride1, stride2};
+}
+template <class E>
+ZELM_INLINE StridedView<E, true, false> vector(E* p) { return {p, 0, 0, sizeof(E)}; }
+template <class E>
+ZELM_INLINE StridedView<E, false, false> vector(E* p, int stride2) { return {p, 0, 0, stride2}; }
+template <class E>
+ZELM_INLINE StridedView<E, true, true> vectors(E* p, int stride0) { return {p, stride0, 0, sizeof(E)}; }
+template <class E>
+ZELM_INLINE StridedView<E, false, true> vectors(E* p, int stride0, int stride2) { return {p, stride0, 0, stride2}; }
+
+template <class E>
+ZELM_INLINE ListView<E, true> matrix_list(E* const* pp, int shift, int stride1) { return {pp, shift, stride1, sizeof(E)}; }
+template <class E>
+ZELM_INLINE ListView<E, false> matrix_list(E* const* pp, int shift, int stride1, int stride2) {
+  return {pp, shift, stride1, stride2};
+}
+template <class E>
+ZELM_INLINE ListView<E, true> vector_list(E* const* pp, int shift) { return {pp, shift, 0, sizeof(E)}; }
+template <class E>
+ZELM_INLINE ListView<E, false> vector_list(E* const* pp, int shift, int stride2) { return {pp, shift, 0, stride2}; }
+
+template <class E>
+ZELM_INLINE TableView<E, false> table(E* const* pp, Bytes shift, int columns) { return {pp, shift, 0, columns}; }
+template <class E>
+ZELM_INLINE TableView<E, true> tables(E* const* pp, Bytes shift, int stride0, int columns) {
+  return {pp, shift, stride0, columns};
+}
+
+// Fixed sizes
+
+/// All R x C elements of an object in registers. A transposed object with contiguous rows is transposed there.
+template <int R, int C, class Object>
+ZELM_INLINE Block<typename Object::T, R, C> block_of(const Object& object) {
+  if constexpr (Object::turned) {
+    return transposed(block_of<C, R>(object.stored));
+  } else {
+    Block<typename Object::T, R, C> b;
+    ZELM_UNROLL for (int i = 0; i < R; ++i) b.rows[i] = object.template row<C>(i);
+    return b;
+  }
+}
+
+/// A single operand read once, before the loop over the objects.
+template <class B>
+struct Held {
+  B block;
+  ZELM_INLINE const B& object(std::ptrdiff_t) const { return block; }
+};
+
+template <int R, int C, class View>
+ZELM_INLINE auto held(const View& view) {
+  if constexpr (View::array) return view;
+  else return Held<Block<typename View::T, R, C>>{block_of<R, C>(view.object(0))};
+}
+
+/// What the rows of an object are taken from: itself, or a block where its rows do not lie in rows.
+template <int R, int C, class Object>
+ZELM_INLINE auto rows_of(const Object& object) {
+  if constexpr (requires { Object::turned; }) {
+    if constexpr (Object::turned) return block_of<R, C>(object);
+    else return object;
+  } else {
+    return object;
+  }
+}
+
+}  // namespace zelm

@@ -1,0 +1,161 @@
+// pack.hpp: Pack<T>, one SSE register of T. One line per instruction; loads and stores touch exactly the elements they name,
+// at any address.
+#pragma once
+#include <emmintrin.h>
+#include <smmintrin.h>
+
+#include <cstdint>
+#include <cstring>
+
+// Loops over rows, columns and lanes of known number become straight-line code; arrays of packs then live in registers.
+#define ZELM_UNROLL _Pragma("clang loop unroll(full)")
+// Loops that the compiler would only blow up: their bodies are packs already, or they run a few times.
+#define ZELM_AS_IT_STANDS _Pragma("clang loop vectorize(disable) unroll(disable)")
+#define ZELM_INLINE inline __attribute__((always_inline))
+
+namespace zelm {
+
+/// One element at an address of any alignment.
+template <class T>
+ZELM_INLINE T load(const T* p) {
+  T value;
+  std::memcpy(&value, p, sizeof(T));
+  return value;
+}
+
+template <class T>
+ZELM_INLINE void store(T* p, T value) {
+  std::memcpy(p, &value, sizeof(T));
+}
+
+template <class T>
+struct Pack;
+
+template <>
+struct Pack<float> {
+  static constexpr int lanes = 4;
+  __m128 raw;
+
+  static ZELM_INLINE Pack zero() { return {_mm_setzero_ps()}; }
+  static ZELM_INLINE Pack splat(float x) { return {_mm_set1_ps(x)}; }
+  static ZELM_INLINE Pack load(const float* p) { return {_mm_loadu_ps(p)}; }
+  static ZELM_INLINE Pack load_aligned(const float* p) { return {_mm_load_ps(p)}; }
+  ZELM_INLINE void store(float* p) const { _mm_storeu_ps(p, raw); }
+
+  /// The first n elements; the other lanes are 0.
+  template <int n>
+  static ZELM_INLINE Pack load_first(const float* p) {
+    if constexpr (n == 1) return {_mm_load_ss(p)};
+    else if constexpr (n == 2) return {_mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)))};
+    else if constexpr (n == 3) return {_mm_movelh_ps(load_first<2>(p).raw, _mm_load_ss(p + 2))};
+    else return load(p);
+  }
+  template <int n>
+  ZELM_INLINE void store_first(float* p) const {
+    if constexpr (n == 1) _mm_store_ss(p, raw);
+    else if constexpr (n == 2) _mm_storel_pi(reinterpret_cast<__m64*>(p), raw);
+    else if constexpr (n == 3) store_first<2>(p), _mm_store_ss(p + 2, _mm_movehl_ps(raw, raw));
+    else store(p);
+  }
+  /// Elements that lie apart, from up to four addresses.
+  template <int n, class Address>
+  static ZELM_INLINE Pack gather(Address at) {
+    __m128 r = _mm_load_ss(at(0));
+    if constexpr (n > 1) r = _mm_insert_ps(r, _mm_load_ss(at(1)), 0x10);
+    if constexpr (n > 2) r = _mm_insert_ps(r, _mm_load_ss(at(2)), 0x20);
+    if constexpr (n > 3) r = _mm_insert_ps(r, _mm_load_ss(at(3)), 0x30);
+    return {r};
+  }
+  template <int n, class Address>
+  ZELM_INLINE void scatter(Address at) const {
+    _mm_store_ss(at(0), raw);
+    if constexpr (n > 1) _mm_store_ss(at(1), _mm_shuffle_ps(raw, raw, 0x55));
+    if constexpr (n > 2) _mm_store_ss(at(2), _mm_movehl_ps(raw, raw));
+    if constexpr (n > 3) _mm_store_ss(at(3), _mm_shuffle_ps(raw, raw, 0xff));
+  }
+
+  friend ZELM_INLINE Pack operator+(Pack a, Pack b) { return {_mm_add_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator-(Pack a, Pack b) { return {_mm_sub_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator*(Pack a, Pack b) { return {_mm_mul_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator/(Pack a, Pack b) { return {_mm_div_ps(a.raw, b.raw)}; }
+
+  // Comparisons give a mask: all bits of a lane set where true, false for a NaN on either side.
+  friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator==(Pack a, Pack b) { return {_mm_cmpeq_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator&(Pack a, Pack b) { return {_mm_and_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_ps(b.raw, a.raw)}; }
+  friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_ps(no.raw, yes.raw, mask.raw)}; }
+  friend ZELM_INLINE Pack abs(Pack a) { return and_not(a, splat(-0.0f)); }
+  /// The larger of each pair; b where either is a NaN.
+  friend ZELM_INLINE Pack max_or_second(Pack a, Pack b) { return {_mm_max_ps(a.raw, b.raw)}; }
+  /// One bit for each lane whose mask is set.
+  friend ZELM_INLINE int lane_bits(Pack mask) { return _mm_movemask_ps(mask.raw); }
+  /// Whole numbers held as elements, as 32-bit integers.
+  friend ZELM_INLINE __m128i to_int32(Pack a) { return _mm_cvttps_epi32(a.raw); }
+};
+
+template <>
+struct Pack<double> {
+  static constexpr int lanes = 2;
+  __m128d raw;
+
+  static ZELM_INLINE Pack zero() { return {_mm_setzero_pd()}; }
+  static ZELM_INLINE Pack splat(double x) { return {_mm_set1_pd(x)}; }
+  static ZELM_INLINE Pack load(const double* p) { return {_mm_loadu_pd(p)}; }
+  static ZELM_INLINE Pack load_aligned(const double* p) { return {_mm_load_pd(p)}; }
+  ZELM_INLINE void store(double* p) const { _mm_storeu_pd(p, raw); }
+
+  template <int n>
+  static ZELM_INLINE Pack load_first(const double* p) {
+    if constexpr (n == 1) return {_mm_load_sd(p)};
+    else return load(p);
+  }
+  template <int n>
+  ZELM_INLINE void store_first(double* p) const {
+    if constexpr (n == 1) _mm_store_sd(p, raw);
+    else store(p);
+  }
+  template <int n, class Address>
+  static ZELM_INLINE Pack gather(Address at) {
+    const __m128d low = _mm_load_sd(at(0));
+    if constexpr (n > 1) return {_mm_loadh_pd(low, at(1))};
+    else return {low};
+  }
+  template <int n, class Address>
+  ZELM_INLINE void scatter(Address at) const {
+    _mm_store_sd(at(0), raw);
+    if constexpr (n > 1) _mm_storeh_pd(at(1), raw);
+  }
+
+  friend ZELM_INLINE Pack operator+(Pack a, Pack b) { return {_mm_add_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator-(Pack a, Pack b) { return {_mm_sub_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator*(Pack a, Pack b) { return {_mm_mul_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator/(Pack a, Pack b) { return {_mm_div_pd(a.raw, b.raw)}; }
+
+  friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator==(Pack a, Pack b) { return {_mm_cmpeq_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator&(Pack a, Pack b) { return {_mm_and_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_pd(b.raw, a.raw)}; }
+  friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_pd(no.raw, yes.raw, mask.raw)}; }
+  friend ZELM_INLINE Pack abs(Pack a) { return and_not(a, splat(-0.0)); }
+  friend ZELM_INLINE Pack max_or_second(Pack a, Pack b) { return {_mm_max_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE int lane_bits(Pack mask) { return _mm_movemask_pd(mask.raw); }
+  friend ZELM_INLINE __m128i to_int32(Pack a) { return _mm_cvttpd_epi32(a.raw); }
+};
+
+/// Rows become columns: lane j of pack i goes to lane i of pack j.
+ZELM_INLINE void transpose(Pack<float> (&r)[4]) {
+  const __m128 a = _mm_unpacklo_ps(r[0].raw, r[1].raw), b = _mm_unpackhi_ps(r[0].raw, r[1].raw);
+  const __m128 c = _mm_unpacklo_ps(r[2].raw, r[3].raw), d = _mm_unpackhi_ps(r[2].raw, r[3].raw);
+  r[0].raw = _mm_movelh_ps(a, c);
+  r[1].raw = _mm_movehl_ps(c, a);
+  r[2].raw = _mm_movelh_ps(b, d);
+  r[3].raw = _mm_movehl_ps(d, b);
+}
+ZELM_INLINE void transpose(Pack<double> (&r)[2]) {
+  const __m128d a = r[0].raw, b = r[1].raw;
+  r[0].raw = _mm_unpacklo_pd(a, b);
+  r[1].raw = _mm_unpackhi_pd(a, b);
+}
+
+}  // namespace zelm

@@ -1,0 +1,306 @@
+// lu.hpp: P A = L U by elimination with partial pivoting, and the solution of A x = b from its factors.
+//
+// Rows are never moved in dst: row k of both factors stands in row p[k], p being the object's part of the index array. Orders 3
+// to 6 run several objects at once, one in each lane; all others run the cores of lu_cores.cpp. The two differ in their limits
+// and in the rounding of multipliers on purpose, and both are absolute: nothing scales them by the size of the matrix.
+// Growth and error bounds: Higham, Accuracy and Stability of Numerical Algorithms, 2nd ed., sections 9.3 and 8.2; measured in
+// tests/solvers/lu_test.cpp.
+#pragma once
+#include <limits>
+
+#include "frame/lanes.hpp"
+#include "solvers/lu_cores.hpp"
+#include "zelm_types.h"
+
+namespace zelm::solvers::lu {
+
+/// Orders 3 to 6: a pivot below twice the smallest normal number is singular, 2^-125 and 2^-1021; the limit itself passes.
+template <class T>
+inline constexpr T kSmallestPivot = 2 * std::numeric_limits<T>::min();
+
+template <class T, int N>
+struct Elimination {
+  using P = Pack<T>;
+  Lanes<T, N, N> w;  // rows in pivot order
+  P p[N];            // row order, whole numbers
+  P finished;        // rows of the factors that stand, N where the object succeeded
+
+  ZELM_INLINE void run() {
+    P alive = P::zero() == P::zero();
+    finished = P::zero();
+    ZELM_UNROLL for (int i = 0; i < N; ++i) p[i] = P::splat(T(i));
+    ZELM_UNROLL for (int k = 0; k < N - 1; ++k) {
+      const P best = exchange(k, alive);
+      judge(best, alive);
+      eliminate(k);
+    }
+    judge(abs(w.e[N - 1][N - 1]), alive);
+  }
+
+ private:
+  ZELM_INLINE void judge(P magnitude, P& alive) {
+    alive = and_not(alive, P::splat(kSmallestPivot<T>) > magnitude);
+    finished = finished + (alive & P::splat(T(1)));
+  }
+
+  /// Brings the largest magnitude of column k to row k, in every lane that has not failed; the first of equals wins and a NaN
+  /// never does. Returns the magnitude.
+  ZELM_INLINE P exchange(int k, P alive) {
+    P best = abs(w.e[k][k]), row = P::splat(T(k));
+    ZELM_UNROLL for (int i = k + 1; i < N; ++i) {
+      const P magnitude = abs(w.e[i][k]);
+      row = select(magnitude > best, P::splat(T(i)), row);
+      best = max_or_second(magnitude, best);
+    }
+    ZELM_UNROLL for (int i = k + 1; i < N; ++i) {
+      const P here = (row == P::splat(T(i))) & alive;
+      swap(here, p[i], p[k]);
+      ZELM_UNROLL for (int j = 0; j < N; ++j) swap(here, w.e[i][j], w.e[k][j]);
+    }
+    return best;
+  }
+
+  /// At most one row answers in a lane, so exchanging row by row is one exchange.
+  static ZELM_INLINE void swap(P mask, P& a, P& b) {
+    const P old = a;
+    a = select(mask, b, a);
+    b = select(mask, old, b);
+  }
+
+  /// One reciprocal for two and more multipliers, a division for the last one alone.
+  ZELM_INLINE void eliminate(int k) {
+    const P pivot = w.e[k][k];
+    const P inverse = k < N - 2 ? P::splat(T(1)) / pivot : pivot;
+    ZELM_UNROLL for (int i = k + 1; i < N; ++i) {
+      const P m = k < N - 2 ? w.e[i][k] * inverse : w.e[i][k] / pivot;
+      w.e[i][k] = m;
+      ZELM_UNROLL for (int j = k + 1; j < N; ++j) w.e[i][j] = w.e[i][j] - w.e[k][j] * m;
+    }
+  }
+};
+
+/// Writes the objects of a block in order, up to and including the first that failed, of which only the finished rows.
+template <class T, int N, class D>
+ZELM_INLINE ZelStatus store_factors(const Elimination<T, N>& f, int* index, const D& d, std::ptrdiff_t k, int valid) {
+  constexpr int L = Pack<T>::lanes;
+  alignas(16) int order[N][4], rows[4];
+  ZELM_UNROLL for (int i = 0; i < N; ++i) _mm_store_si128(reinterpret_cast<__m128i*>(order[i]), to_int32(f.p[i]));
+  _mm_store_si128(reinterpret_cast<__m128i*>(rows), to_int32(f.finished));
+  int written = 0;  // objects
+  while (written < valid && rows[written++] == N) {}
+  for (int l = 0; l < written; ++l)
+    for (int i = 0; i < N; ++i) store(index + (k + l) * N + i, order[i][l]);
+  typename D::Object objects[L];
+  ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = d.object(k + std::min(l, written - 1));
+  ZELM_UNROLL for (int i = 0; i < N; ++i)
+    for_each_lane_row<N>(f.w.e[i], [&](int l, const auto& row) {
+      if (l < written && i < rows[l]) objects[l].template set_row<N>(order[i][l], row);
+    });
+  return rows[written - 1] == N ? zelStsOk : zelStsSingular;
+}
+
+template <int N, class A, class D>
+ZelStatus decompose_fixed(const A& a, int* index, const D& d, int count) {
+  using T = typename A::T;
+  constexpr int L = Pack<T>::lanes;
+  for (std::ptrdiff_t k = 0; k < count; k += L) {
+    const int valid = int(std::min<std::ptrdiff_t>(L, count - k));
+    Elimination<T, N> f;
+    load_lanes(f.w, a, k, valid);
+    f.run();
+    if (const ZelStatus status = store_factors(f, index, d, k, valid)) return status;
+  }
+  return zelStsOk;
+}
+
+template <class A, class D>
+ZELM_INLINE ZelStatus decompose(A a, int* index, D d, int order, int count) {
+  switch (order) {
+    case 3: return decompose_fixed<3>(a, index, d, count);
+    case 4: return decompose_fixed<4>(a, index, d, count);
+    case 5: return decompose_fixed<5>(a, index, d, count);
+    case 6: return decompose_fixed<6>(a, index, d, count);
+  }
+  for (std::ptrdiff_t k = 0; k < count; ++k)
+    if (const ZelStatus status = decompose_core(a.object(k), index + k * order, d.object(k), order)) return status;
+  return zelStsOk;
+}
+
+// Solution
+
+/// Forward and back substitution on lanes, in place, every term subtracted alone: of row i of L the terms 1, ..., i - 1, 0; of
+/// row i of U ascending terms, but the last one first where there are three or more.
+///   factor(i, j)   element of the factors, rows in pivot order
+///   by_pivot(x, i) x over the i-th pivot
+template <int N, class P, class Factor, class ByPivot>
+ZELM_INLINE void substitute(P (&x)[N], Factor factor, ByPivot by_pivot) {
+  ZELM_UNROLL for (int i = 1; i < N; ++i) {
+    ZELM_UNROLL for (int j = 1; j < i; ++j) x[i] = x[i] - factor(i, j) * x[j];
+    x[i] = x[i] - factor(i, 0) * x[0];
+  }
+  ZELM_UNROLL for (int i = N - 1; i >= 0; --i) {
+    const bool last_first = N - 1 - i >= 3;
+    if (last_first) x[i] = x[i] - factor(i, N - 1) * x[N - 1];
+    ZELM_UNROLL for (int j = i + 1; j < (last_first ? N - 1 : N); ++j) x[i] = x[i] - factor(i, j) * x[j];
+    x[i] = by_pivot(x[i], i);
+  }
+}
+
+/// Every vector with a matrix of its own, or one vector: division by the pivots.
+template <int N, class A, class B, class D>
+void solve_each(const A& a, const int* index, const B& b, const D& d, int count) {
+  using T = typename D::T;
+  constexpr int L = Pack<T>::lanes;
+  for (std::ptrdiff_t k = 0; k < count; k += L) {
+    const int valid = int(std::min<std::ptrdiff_t>(L, count - k));
+    typename A::Object matrices[L];
+    typename B::Object vectors[L];
+    const int* order[L];
+    ZELM_UNROLL for (int l = 0; l < L; ++l) {
+      const std::ptrdiff_t object = k + std::min(l, valid - 1);
+      matrices[l] = a.object(object);
+      vectors[l] = b.object(object);
+      order[l] = index + object * N;
+    }
+    Lanes<T, N, N> f;
+    Lanes<T, 1, N> x;
+    ZELM_UNROLL for (int i = 0; i < N; ++i) {
+      to_lanes<N>(f.e[i], [&](int l) { return matrices[l].template row<N>(load(order[l] + i)); });
+      x.e[0][i] = Pack<T>::template gather<L>([&](int l) { return vectors[l].at(0, load(order[l] + i)); });
+    }
+    substitute<N>(x.e[0], [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v / f.e[i][i]; });
+    store_lanes(x, d, k, valid);
+  }
+}
+
+/// The factors of the one matrix of a call, every element in all lanes, rows in pivot order.
+template <class T, int N>
+struct Broadcast {
+  Pack<T> e[N][N], inverse[N];  // inverse: of the pivots
+
+  template <class Object>
+  Broadcast(const Object& a, const int* order) {
+    for (int i = 0; i < N; ++i) {
+      const int row = load(order + i);
+      for (int j = 0; j < N; ++j) e[i][j] = Pack<T>::splat(load(a.at(row, j)));
+      inverse[i] = Pack<T>::splat(T(1)) / e[i][i];
+    }
+  }
+};
+
+/// Explicit inverses of both factors: two products with triangular matrices for each vector, no chain of substitutions.
+template <class T, int N>
+struct InverseFactors {
+  using P = Pack<T>;
+  P lower[N][N], upper[N][N];  // lower without its unit diagonal
+
+  explicit InverseFactors(const Broadcast<T, N>& f) {
+    const P zero = P::zero();
+    const auto& a = f.e;
+    const auto& r = f.inverse;
+    for (int j = 0; j < N; ++j)
+      for (int i = j + 1; i < N; ++i) {
+        P s = i == j + 1 ? zero - a[i][j] : a[j + 1][j] * a[i][j + 1] - a[i][j];
+        for (int m = j + 2; m < i; ++m) s = s - a[i][m] * lower[m][j];
+        lower[i][j] = s;
+      }
+    // Row i of the inverse of U is -r[i] times h[j] r[j], with h a row of the elimination of U's rows above the diagonal.
+    for (int i = 0; i < N; ++i) {
+      P h[N];
+      upper[i][i] = r[i];
+      for (int j = i + 1; j < N; ++j) {
+        h[j] = a[i][j];
+        if (j > i + 1) {
+          P s = (zero - h[i + 1] * r[i + 1]) * a[i + 1][j];
+          for (int m = i + 2; m < j; ++m) s = s + (zero - h[m] * r[m]) * a[m][j];
+          h[j] = s + a[i][j];
+        }
+        upper[i][j] = j == i + 1 ? (zero - a[i][j] * r[i]) * r[j] : (zero - r[i]) * (h[j] * r[j]);
+      }
+    }
+  }
+
+  ZELM_INLINE void apply(P (&x)[N]) const {
+    P y[N];
+    y[0] = x[0];
+    ZELM_UNROLL for (int i = 1; i < N; ++i) {
+      P s = lower[i][0] * x[0];
+      ZELM_UNROLL for (int j = 1; j < i; ++j) s = s + lower[i][j] * x[j];
+      y[i] = s + x[i];
+    }
+    ZELM_UNROLL for (int i = 0; i < N; ++i) {
+      P s = upper[i][i] * y[i];
+      ZELM_UNROLL for (int j = i + 1; j < N; ++j) s = s + upper[i][j] * y[j];
+      x[i] = s;
+    }
+  }
+};
+
+/// Many vectors with one matrix; apply(x) solves for the vectors in the lanes of x, which come in pivot order.
+template <int N, class B, class D, class Apply>
+ZELM_INLINE void solve_vectors(const B& b, const int* index, const D& d, int count, Apply apply) {
+  using T = typename D::T;
+  constexpr int L = Pack<T>::lanes;
+  int order[N];
+  bool permutation = true;  // entries are used as they stand: elsewhere than 0 to N - 1 they are read from memory
+  for (int i = 0; i < N; ++i) {
+    order[i] = load(index + i);
+    permutation &= unsigned(order[i]) < unsigned(N);
+  }
+  for (std::ptrdiff_t k = 0; k < count; k += L) {
+    const int valid = int(std::min<std::ptrdiff_t>(L, count - k));
+    Lanes<T, 1, N> x;
+    if (permutation) {
+      Lanes<T, 1, N> natural;
+      load_lanes(natural, b, k, valid);
+      ZELM_UNROLL for (int i = 0; i < N; ++i) x.e[0][i] = natural.e[0][order[i]];
+    } else {
+      for (int i = 0; i < N; ++i)
+        x.e[0][i] = Pack<T>::template gather<L>([&](int l) { return b.object(k + std::min(l, valid - 1)).at(0, order[i]); });
+    }
+    apply(x.e[0]);
+    store_lanes(x, d, k, valid);
+  }
+}
+
+template <int N, class A, class B, class D>
+void solve_one_matrix(const A& a, const int* index, const B& b, const D& d, int count) {
+  using T = typename D::T;
+  const Broadcast<T, N> f(a.object(0), index);
+  // Inverting the factors pays from three vectors on; only float in the contiguous standard layout does it.
+  if constexpr (std::is_same_v<T, float> && A::plain && B::plain && D::plain) {
+    if (count > 2) {
+      const InverseFactors<T, N> inverse(f);
+      solve_vectors<N>(b, index, d, count, [&](auto& x) { inverse.apply(x); });
+      return;
+    }
+  }
+  solve_vectors<N>(b, index, d, count, [&](auto& x) {
+    substitute<N>(x, [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v * f.inverse[i]; });
+  });
+}
+
+template <int N, class A, class B, class D>
+ZELM_INLINE ZelStatus solve_fixed(const A& a, const int* index, const B& b, const D& d, int count) {
+  if constexpr (!A::array && B::array) solve_one_matrix<N>(a, index, b, d, count);
+  else solve_each<N>(a, index, b, d, count);
+  return zelStsOk;
+}
+
+template <class A, class B, class D>
+ZELM_INLINE ZelStatus solve(A a, const int* index, B b, D d, int order, int count) {
+  switch (order) {
+    case 3: return solve_fixed<3>(a, index, b, d, count);
+    case 4: return solve_fixed<4>(a, index, b, d, count);
+    case 5: return solve_fixed<5>(a, index, b, d, count);
+    case 6: return solve_fixed<6>(a, index, b, d, count);
+  }
+  using Sum = std::conditional_t<B::array, PairedSum,
+                                 std::conditional_t<std::is_same_v<typename D::T, float> && A::plain && B::plain && D::plain,
+                                                    BlockedSum, PlainSum>>;
+  for (std::ptrdiff_t k = 0; k < count; ++k)
+    solve_core<Sum>(a.object(k), A::array ? index + k * order : index, b.object(k), d.object(k), order);
+  return zelStsOk;
+}
+
+}  // namespace zelm::solvers::lu
