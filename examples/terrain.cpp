@@ -1,0 +1,310 @@
+// terrain: slope and curvature of an elevation grid. Fits a quadric around every cell (surface.hpp) with two calls of
+// zelm, one that decomposes the normal matrices of all cells and one that solves them all; times both beside the same
+// work by Eigen, checks every residual, and draws the result.
+#include <unistd.h>
+#include <zelcore.h>
+#include <zelm.h>
+
+#include <Eigen/LU>
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <limits>
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "grid.hpp"
+#include "maps.hpp"
+#include "surface.hpp"
+
+namespace terrain {
+namespace {
+
+constexpr char kUsage[] =
+    "Usage: terrain [-o FILE] [--repeat N] [GRID]\n"
+    "\n"
+    "Fits a quadric around every cell of an elevation grid, reports how long that takes, and draws slope and\n"
+    "mean curvature.\n"
+    "\n"
+    "  GRID        ESRI ASCII grid, in degrees or metres (default: " TERRAIN_GRID
+    ")\n"
+    "  -o FILE     the picture, a PNG file (default: terrain.png)\n"
+    "  --repeat N  time every call N times, 1 to 1000, and report the median (default: 9)\n"
+    "  --help      print this and exit\n"
+    "\n"
+    "OMP_NUM_THREADS sets what \"all threads\" are.\n";
+
+struct Options {
+  std::string grid = TERRAIN_GRID, picture = "terrain.png";
+  int repeat = 9;
+  bool help = false;
+};
+
+Options parse(int argc, char** argv) {
+  Options options;
+  bool grid_given = false;
+  for (int i = 1; i < argc; ++i) {
+    const std::string argument = argv[i];
+    const auto value = [&] {
+      if (++i == argc) throw std::runtime_error(argument + " needs a value");
+      return std::string(argv[i]);
+    };
+    if (argument == "--help" || argument == "-h") {
+      options.help = true;
+    } else if (argument == "-o") {
+      options.picture = value();
+    } else if (argument == "--repeat") {
+      const std::string text = value();
+      const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), options.repeat);
+      if (error != std::errc() || end != text.data() + text.size() || options.repeat < 1 || options.repeat > 1000)
+        throw std::runtime_error("--repeat takes a number from 1 to 1000, not '" + text + "'");
+    } else if (argument.starts_with('-') && argument != "-") {
+      throw std::runtime_error("unknown option " + argument + "; try --help");
+    } else if (std::exchange(grid_given, true)) {
+      throw std::runtime_error("one grid at a time: " + options.grid + " or " + argument);
+    } else {
+      options.grid = argument;
+    }
+  }
+  return options;
+}
+
+// One line on standard error that replaces itself, if somebody watches.
+class Progress {
+ public:
+  ~Progress() { show(""); }
+  void show(const std::string& text) const {
+    if (watched_) std::fprintf(stderr, "\r\033[K%s", text.c_str());
+  }
+
+ private:
+  const bool watched_ = isatty(STDERR_FILENO);
+};
+
+double milliseconds(auto&& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+double median(std::vector<double> values) {
+  const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return values.size() % 2 ? *middle : (*middle + *std::max_element(values.begin(), middle)) / 2;
+}
+
+// LU factors and solutions of all cells by zelm.
+class Zelm {
+ public:
+  explicit Zelm(const NormalEquations& equations)
+      : equations_(equations),
+        count_(int(equations.fitted.size())),
+        factors_(equations.matrices.size()),
+        order_(equations.right_sides.size()),
+        solutions_(equations.right_sides.size()) {}
+
+  void decompose() {
+    require_ok("zelmLUDecomp_ma_32f",
+               zelmLUDecomp_ma_32f(equations_.matrices.data(), kMatrix, kRow, kElement, order_.data(), factors_.data(),
+                                   kMatrix, kRow, kElement, kTerms, count_));
+  }
+
+  void solve() {
+    require_ok(
+        "zelmLUBackSubst_mava_32f",
+        zelmLUBackSubst_mava_32f(factors_.data(), kMatrix, kRow, kElement, order_.data(), equations_.right_sides.data(),
+                                 kRow, kElement, solutions_.data(), kRow, kElement, kTerms, count_));
+  }
+
+  const std::vector<float>& solutions() const { return solutions_; }
+
+  // The largest |A x - b| as a share of its bound; throws if one exceeds it. With L, U as computed, and u = 2^-24,
+  // |A x - b| <= g |L| |U| |x| with g = k u / (1 - k u) and k = 3 n + 1: Higham, Accuracy and Stability of Numerical
+  // Algorithms (2002), theorems 8.5 and 9.3, and one rounding more for multipliers formed by a reciprocal. It uses the
+  // factors themselves, so no assumption on the growth of elements enters. Double precision adds nothing that counts.
+  double check_residuals() const {
+    constexpr double kRoundings = (3 * kTerms + 1) * 0x1p-24, kBound = kRoundings / (1 - kRoundings);
+    constexpr double kUnderflow = std::numeric_limits<float>::min();  // far above what subnormal results can lose
+    double largest = 0;
+    for (std::size_t cell = 0; cell < std::size_t(count_); ++cell) {
+      const float* const matrix = &equations_.matrices[cell * kTerms * kTerms];
+      const float* const factors = &factors_[cell * kTerms * kTerms];
+      const float* const b = &equations_.right_sides[cell * kTerms];
+      const float* const x = &solutions_[cell * kTerms];
+      double upper[kTerms];  // |U| |x|
+      for (int i = 0; i < kTerms; ++i) {
+        const int row = order_[cell * kTerms + std::size_t(i)];
+        double residual = -double(b[row]), size = upper[i] = 0;
+        for (int j = 0; j < kTerms; ++j) {
+          residual += double(matrix[row * kTerms + j]) * x[j];
+          const double factor = std::abs(double(factors[row * kTerms + j]));
+          if (j < i)
+            size += factor * upper[j];
+          else
+            upper[i] += factor * std::abs(double(x[j]));
+        }
+        const double share = std::abs(residual) / (kBound * (size + upper[i]) + kUnderflow);
+        if (!(share <= 1)) {
+          char text[128];
+          std::snprintf(text, sizeof text, "cell %zu, equation %d: the residual %g is %g times its bound", cell, row,
+                        residual, share);
+          throw std::runtime_error(text);
+        }
+        largest = std::max(largest, share);
+      }
+    }
+    return largest;
+  }
+
+ private:
+  static constexpr int kElement = sizeof(float), kRow = kTerms * kElement, kMatrix = kTerms * kRow;  // strides
+
+  static void require_ok(const char* function, ZelStatus status) {
+    if (status != zelStsOk) throw std::runtime_error(std::string(function) + " returned " + std::to_string(status));
+  }
+
+  const NormalEquations& equations_;
+  const int count_;
+  std::vector<float> factors_;
+  std::vector<int> order_;  // of the rows, for every cell
+  std::vector<float> solutions_;
+};
+
+// The same by Eigen, the cells divided evenly among `threads`.
+class Rival {
+ public:
+  explicit Rival(const NormalEquations& equations)
+      : equations_(equations), factors_(equations.fitted.size()), solutions_(equations.right_sides.size()) {}
+
+  void decompose(int threads) {
+#pragma omp parallel for num_threads(threads) schedule(static)
+    for (std::size_t cell = 0; cell < factors_.size(); ++cell)
+      factors_[cell].compute(Eigen::Map<const Matrix>(&equations_.matrices[cell * kTerms * kTerms]));
+  }
+
+  void solve(int threads) {
+#pragma omp parallel for num_threads(threads) schedule(static)
+    for (std::size_t cell = 0; cell < factors_.size(); ++cell)
+      Eigen::Map<Vector>{&solutions_[cell * kTerms]} =
+          factors_[cell].solve(Eigen::Map<const Vector>(&equations_.right_sides[cell * kTerms]));
+  }
+
+ private:
+  using Matrix = Eigen::Matrix<float, kTerms, kTerms>;  // by columns; the normal matrices are symmetric
+  using Vector = Eigen::Matrix<float, kTerms, 1>;
+
+  const NormalEquations& equations_;
+  std::vector<Eigen::PartialPivLU<Matrix>> factors_;
+  std::vector<float> solutions_;
+};
+
+struct Times {
+  int threads;
+  double decompose, solve, rival_decompose, rival_solve;  // medians in milliseconds
+};
+
+// The four are timed in turn, so that what else the machine does falls on all alike; a first round only warms up.
+Times time_with(int threads, Zelm& zelm, Rival& rival, int repeat, const Progress& progress) {
+  zelSetNumThreads(threads);
+  std::vector<double> samples[4];
+  for (int round = 0; round <= repeat; ++round) {
+    progress.show("Timing with " + std::to_string(threads) + (threads == 1 ? " thread: " : " threads: ") +
+                  std::to_string(round) + " of " + std::to_string(repeat));
+    const double round_times[] = {milliseconds([&] { zelm.decompose(); }), milliseconds([&] { zelm.solve(); }),
+                                  milliseconds([&] { rival.decompose(threads); }),
+                                  milliseconds([&] { rival.solve(threads); })};
+    for (int i = 0; i < 4 && round > 0; ++i) samples[i].push_back(round_times[i]);
+  }
+  return {threads, median(samples[0]), median(samples[1]), median(samples[2]), median(samples[3])};
+}
+
+void print_times(const std::vector<Times>& times, std::size_t cells) {
+  std::printf("\n%18s", "");
+  for (const Times& t : times) std::printf("%12d thread%c", t.threads, t.threads == 1 ? ' ' : 's');
+  std::printf("\n%18s", "");
+  for (std::size_t i = 0; i < times.size(); ++i) std::printf("%9s%11s", "ms", "million/s");
+  const auto row = [&](const char* work, const char* who, double Times::*time) {
+    std::printf("\n%-10s  %-6s", work, who);
+    for (const Times& t : times) std::printf("%9.2f%11.2f", t.*time, double(cells) / (t.*time * 1000));
+  };
+  const auto ratio = [&](double Times::*time, double Times::*rival_time) {
+    std::printf("\n%12s%-6s", "", "ratio");
+    for (const Times& t : times) std::printf("%9.2f%11s", t.*time / t.*rival_time, "");
+  };
+  row("decompose", "zelm", &Times::decompose);
+  row("", "Eigen", &Times::rival_decompose);
+  ratio(&Times::decompose, &Times::rival_decompose);
+  row("solve", "zelm", &Times::solve);
+  row("", "Eigen", &Times::rival_solve);
+  ratio(&Times::solve, &Times::rival_solve);
+  std::printf("\n\n");
+}
+
+void run(const Options& options) {
+  const Progress progress;
+  progress.show("Reading " + options.grid);
+  const Grid grid = read_grid(options.grid);
+  const CellSize cell = grid.cell_size(grid.rows / 2);
+  NormalEquations equations;
+  progress.show("Setting up the normal equations");
+  const double set_up = milliseconds([&] { equations = normal_equations(grid); });
+  const auto fitted = std::count(equations.fitted.begin(), equations.fitted.end(), true);
+  progress.show("");
+  std::printf("%s: %d x %d cells of %.1f m x %.1f m, %td of them with data enough to fit\n",
+              std::filesystem::path(options.grid).filename().c_str(), grid.columns, grid.rows, cell.east, cell.north,
+              fitted);
+  std::printf("%zu systems of %d normal equations, set up in %.1f ms by one thread\n", grid.cells(), kTerms, set_up);
+  std::fflush(stdout);
+
+  const int all = zelGetNumThreads();
+  Zelm zelm(equations);
+  Rival rival(equations);
+  std::vector<Times> times;
+  double residual = 0;
+  for (const int threads : {1, all}) {
+    if (!times.empty() && threads == 1) break;
+    times.push_back(time_with(threads, zelm, rival, options.repeat, progress));
+    residual = std::max(residual, zelm.check_residuals());
+  }
+  progress.show("");
+  print_times(times, grid.cells());
+  std::printf("Time of a call on all cells (median of %d) and millions of matrices per second.\n", options.repeat);
+  std::printf("Eigen %d.%d.%d: PartialPivLU<Matrix<float, %d, %d>>, compiled with %s.\n", EIGEN_WORLD_VERSION,
+              EIGEN_MAJOR_VERSION, EIGEN_MINOR_VERSION, kTerms, kTerms, TERRAIN_FLAGS);
+  std::printf("All residuals keep their bound; the largest is %.2f of it.\n", residual);
+
+  progress.show("Drawing " + options.picture);
+  const Picture picture = draw_maps(grid, surfaces(grid, equations, zelm.solutions()));
+  picture.save_png(options.picture);
+  progress.show("");
+  std::printf("Slope and mean curvature: %s, %d x %d pixels\n", options.picture.c_str(), picture.width(),
+              picture.height());
+}
+
+}  // namespace
+}  // namespace terrain
+
+int main(int argc, char** argv) {
+  try {
+    const terrain::Options options = terrain::parse(argc, argv);
+    if (options.help)
+      std::fputs(terrain::kUsage, stdout);
+    else
+      terrain::run(options);
+    if (std::fflush(stdout) != 0) throw std::runtime_error("cannot write to standard output");
+  } catch (const std::bad_alloc&) {
+    std::fputs("terrain: not enough memory for a grid of this size\n", stderr);
+    return 1;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "terrain: %s\n", error.what());
+    return 1;
+  }
+}
