@@ -121,6 +121,7 @@ class Builder {
 
   string entries_per_object(string_view name) const {
     if (name == "pBuffer" || (name == "pSrcIndex" && !tags[0].array)) return "";
+    if (f.row->operation == "Extract") return any_matrix() ? "width*height" : "width";
     return has("widthHeight") && (f.row->room == "eigen" || name != "pDst") ? "widthHeight" : "1";
   }
 

@@ -17,7 +17,7 @@ struct Minus {
   ZELM_INLINE V operator()(V a, V b) const { return a - b; }
 };
 
-/// Objects without gaps are one run. A single operand is laid out often enough to fill whole registers and repeats.
+/// Objects without gaps are one run, along which a single operand repeats.
 template <class Op, class A, class B, class D>
 bool combine_tight(const A& a, const B& b, const D& d, int rows, int columns, int count) {
   using T = typename D::T;
@@ -29,18 +29,9 @@ bool combine_tight(const A& a, const B& b, const D& d, int rows, int columns, in
     run(Op{}, Elements{a.first}, Elements{b.first}, d.first, size * count);
     return true;
   } else {
-    if (size > Pattern<T>::limit || count < Pattern<T>::worth) return false;
-    if constexpr (A::array) {
-      const Pattern<T> pattern(b.object(0), rows, columns);
-      pattern.repeat(size * count, [&](std::ptrdiff_t from, std::ptrdiff_t n) {
-        run(Op{}, Elements{a.first + from}, Elements{pattern.elements}, d.first + from, n);
-      });
-    } else {
-      const Pattern<T> pattern(a.object(0), rows, columns);
-      pattern.repeat(size * count, [&](std::ptrdiff_t from, std::ptrdiff_t n) {
-        run(Op{}, Elements{pattern.elements}, Elements{b.first + from}, d.first + from, n);
-      });
-    }
+    if (size > Pattern<T>::limit || count < Pattern<T>::L) return false;
+    if constexpr (A::array) run_repeated<Op, false>(Op{}, a.first, Pattern<T>(b.object(0), rows, columns), d.first, size * count);
+    else run_repeated<Op, true>(Op{}, b.first, Pattern<T>(a.object(0), rows, columns), d.first, size * count);
     return true;
   }
 }

@@ -63,32 +63,66 @@ __attribute__((noinline)) void run(Op op, A a, B b, T* d, std::ptrdiff_t n) {
   else run_packs(op, a, b, d, n);
 }
 
-/// An object repeated until its copies fill whole registers, and often enough that the loop over them is short of branches.
+/// A single object, repeated until its copies fill whole registers: what it combines with is then one run of memory.
 template <class T>
 struct Pattern {
-  static constexpr int limit = 36;                     // 6 x 6, the largest of the small sizes
-  static constexpr int capacity = 4 * limit;           // lanes x limit elements at the least
-  static constexpr int worth = 2 * Pack<T>::lanes;     // below, building it costs more than it saves
-  alignas(16) T elements[capacity];
-  std::ptrdiff_t period;
+  static constexpr int L = Pack<T>::lanes;
+  static constexpr int limit = 36;  // elements, 6 x 6: the largest of the small sizes
+  alignas(16) T elements[L * limit];
+  int packs;
 
   template <class Object>
   Pattern(const Object& object, int rows, int columns) {
     const int size = rows * columns;
-    constexpr int L = Pack<T>::lanes;
-    period = size * std::max(capacity / size / L * L, L);
+    int copies = 1;
+    while (copies * size % L != 0) copies *= 2;
+    packs = copies * size / L;
     int filled = 0;
-    for (int i = 0; i < rows; ++i)
-      ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) elements[filled++] = load(object.at(i, j));
-    ZELM_AS_IT_STANDS for (std::ptrdiff_t e = size; e < period; ++e) elements[e] = elements[e - size];
-  }
-  /// Calls body(first element, number of elements) for each stretch of one period and for the rest.
-  template <class Body>
-  ZELM_INLINE void repeat(std::ptrdiff_t n, Body body) const {
-    std::ptrdiff_t from = 0;
-    for (; from + period <= n; from += period) body(from, period);
-    if (from < n) body(from, n - from);
+    for (int c = 0; c < copies; ++c) {
+      for (int i = 0; i < rows; ++i) {
+        if constexpr (Object::plain) std::memcpy(elements + filled, object.at(i, 0), std::size_t(columns) * sizeof(T)), filled += columns;
+        else
+          ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) elements[filled++] = load(object.at(i, j));
+      }
+    }
   }
 };
+
+/// d = op(a, pattern), or op(pattern, a) if `first`, with Q registers of the pattern a turn.
+template <class Op, bool first, int Q, class T>
+__attribute__((noinline)) void run_repeated(Op op, const T* a, const Pattern<T>& pattern, T* d, std::ptrdiff_t n) {
+  constexpr int L = Pack<T>::lanes;
+  const auto combined = [&](auto x, auto y) { return first ? op(y, x) : op(x, y); };
+  const int packs = Q > 0 ? Q : pattern.packs;
+  Pack<T> held[std::max(Q, 1)];  // copies that no store to d can change, in registers where there are enough
+  ZELM_UNROLL for (int q = 0; q < Q; ++q) held[q] = Pack<T>::load_aligned(pattern.elements + q * L);
+  std::ptrdiff_t e = 0;
+  ZELM_AS_IT_STANDS for (const std::ptrdiff_t end = n / (packs * L) * (packs * L); e < end; e += packs * L) {
+    if constexpr (Q > 0) {
+      ZELM_UNROLL for (int q = 0; q < Q; ++q) combined(Pack<T>::load(a + e + q * L), held[q]).store(d + e + q * L);
+    } else {
+      ZELM_AS_IT_STANDS for (int q = 0; q < packs; ++q)
+        combined(Pack<T>::load(a + e + q * L), Pack<T>::load_aligned(pattern.elements + q * L)).store(d + e + q * L);
+    }
+  }
+  ZELM_AS_IT_STANDS for (int q = 0; e < n; ++e, ++q) store(d + e, combined(load(a + e), pattern.elements[q]));
+}
+
+/// The small sizes have loops of their own: 1 to 9 registers are vectors of 3 to 6 elements and matrices of 3 x 3, 4 x 4, 6 x 6.
+template <class Op, bool first, class T>
+void run_repeated(Op op, const T* a, const Pattern<T>& pattern, T* d, std::ptrdiff_t n) {
+  switch (pattern.packs) {
+    case 1: return run_repeated<Op, first, 1>(op, a, pattern, d, n);
+    case 2: return run_repeated<Op, first, 2>(op, a, pattern, d, n);
+    case 3: return run_repeated<Op, first, 3>(op, a, pattern, d, n);
+    case 4: return run_repeated<Op, first, 4>(op, a, pattern, d, n);
+    case 5: return run_repeated<Op, first, 5>(op, a, pattern, d, n);
+    case 8: return run_repeated<Op, first, 8>(op, a, pattern, d, n);
+    case 9: return run_repeated<Op, first, 9>(op, a, pattern, d, n);
+    case 18: return run_repeated<Op, first, 18>(op, a, pattern, d, n);
+    case 25: return run_repeated<Op, first, 25>(op, a, pattern, d, n);
+    default: return run_repeated<Op, first, 0>(op, a, pattern, d, n);
+  }
+}
 
 }  // namespace zelm::elementwise

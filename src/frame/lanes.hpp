@@ -8,69 +8,179 @@
 
 namespace zelm {
 
+/// Element j of a row in each of four places, at(l) being the address of the row in lane l, to e[j].
+template <int N, class Address>
+ZELM_INLINE void rows_to_lanes(Pack<float> (&e)[N], Address at) {
+  using P = Pack<float>;
+  constexpr int full = N / 4 * 4, pairs = (N - full) / 2 * 2;
+  ZELM_UNROLL for (int j = 0; j < full; j += 4) {
+    P tile[4];
+    ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[l] = P::load(at(l) + j);
+    transpose(tile);
+    ZELM_UNROLL for (int l = 0; l < 4; ++l) e[j + l] = tile[l];
+  }
+  if constexpr (pairs > 0) {
+    const auto two = [&](int l) { return P::load_first<2>(at(l) + full).raw; };
+    const __m128 low = shuffle<0x44>(two(0), two(1)), high = shuffle<0x44>(two(2), two(3));
+    e[full].raw = shuffle<0x88>(low, high);
+    e[full + 1].raw = shuffle<0xdd>(low, high);
+  }
+  if constexpr (full + pairs < N) e[N - 1] = P::gather<4>([&](int l) { return at(l) + (N - 1); });
+}
+
+template <int N, class Address>
+ZELM_INLINE void rows_to_lanes(Pack<double> (&e)[N], Address at) {
+  using P = Pack<double>;
+  ZELM_UNROLL for (int j = 0; j + 1 < N; j += 2) {
+    P tile[2] = {P::load(at(0) + j), P::load(at(1) + j)};
+    transpose(tile);
+    e[j] = tile[0];
+    e[j + 1] = tile[1];
+  }
+  if constexpr (N % 2) e[N - 1] = P::gather<2>([&](int l) { return at(l) + (N - 1); });
+}
+
+/// The other way.
+template <int N, class Address>
+ZELM_INLINE void lanes_to_rows(const Pack<float> (&e)[N], Address at) {
+  using P = Pack<float>;
+  constexpr int full = N / 4 * 4, pairs = (N - full) / 2 * 2;
+  ZELM_UNROLL for (int j = 0; j < full; j += 4) {
+    P tile[4] = {e[j], e[j + 1], e[j + 2], e[j + 3]};
+    transpose(tile);
+    ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[l].store(at(l) + j);
+  }
+  if constexpr (pairs > 0) {
+    const __m128 low = _mm_unpacklo_ps(e[full].raw, e[full + 1].raw), high = _mm_unpackhi_ps(e[full].raw, e[full + 1].raw);
+    const auto place = [&](int l) { return reinterpret_cast<__m64*>(at(l) + full); };
+    _mm_storel_pi(place(0), low);
+    _mm_storeh_pi(place(1), low);
+    _mm_storel_pi(place(2), high);
+    _mm_storeh_pi(place(3), high);
+  }
+  if constexpr (full + pairs < N) e[N - 1].template scatter<4>([&](int l) { return at(l) + (N - 1); });
+}
+
+template <int N, class Address>
+ZELM_INLINE void lanes_to_rows(const Pack<double> (&e)[N], Address at) {
+  using P = Pack<double>;
+  ZELM_UNROLL for (int j = 0; j + 1 < N; j += 2) {
+    P tile[2] = {e[j], e[j + 1]};
+    transpose(tile);
+    tile[0].store(at(0) + j);
+    tile[1].store(at(1) + j);
+  }
+  if constexpr (N % 2) e[N - 1].template scatter<2>([&](int l) { return at(l) + (N - 1); });
+}
+
+/// Four vectors of three elements without gaps between them: three registers.
+ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const float* p) {
+  const __m128 a = _mm_loadu_ps(p), b = _mm_loadu_ps(p + 4), c = _mm_loadu_ps(p + 8);  // x0y0z0x1 y1z1x2y2 z2x3y3z3
+  const __m128 y0z0y1z1 = shuffle<0x49>(a, b), x2y2x3y3 = shuffle<0x9e>(b, c);
+  e[0].raw = shuffle<0x8c>(a, x2y2x3y3);
+  e[1].raw = shuffle<0xd8>(y0z0y1z1, x2y2x3y3);
+  e[2].raw = shuffle<0xcd>(y0z0y1z1, c);
+}
+ZELM_INLINE void lanes_to_packed(const Pack<float> (&e)[3], float* p) {
+  const __m128 x = e[0].raw, y = e[1].raw, z = e[2].raw;
+  const __m128 x0x2y0y2 = shuffle<0x88>(x, y), y1y3z1z3 = shuffle<0xdd>(y, z), z0z2x1x3 = shuffle<0xd8>(z, x);
+  _mm_storeu_ps(p, shuffle<0x88>(x0x2y0y2, z0z2x1x3));
+  _mm_storeu_ps(p + 4, shuffle<0xd8>(y1y3z1z3, x0x2y0y2));
+  _mm_storeu_ps(p + 8, shuffle<0xdd>(z0z2x1x3, y1y3z1z3));
+}
+
+/// Row rows(l) of the object in lane l.
+template <int N, class Object, class RowOf>
+ZELM_INLINE void load_row(Pack<typename Object::T> (&e)[N], const Object* objects, RowOf row) {
+  constexpr int L = Pack<typename Object::T>::lanes;
+  if constexpr (Object::plain) {
+    rows_to_lanes(e, [&](int l) { return objects[l].at(row(l), 0); });
+  } else {
+    ZELM_UNROLL for (int j = 0; j < N; ++j)
+      e[j] = Pack<typename Object::T>::template gather<L>([&](int l) { return objects[l].at(row(l), j); });
+  }
+}
+
+template <int N, class Object, class RowOf>
+ZELM_INLINE void store_row(const Pack<typename Object::T> (&e)[N], const Object* objects, RowOf row) {
+  constexpr int L = Pack<typename Object::T>::lanes;
+  if constexpr (Object::plain) {
+    lanes_to_rows(e, [&](int l) { return objects[l].at(row(l), 0); });
+  } else {
+    ZELM_UNROLL for (int j = 0; j < N; ++j) e[j].template scatter<L>([&](int l) { return objects[l].at(row(l), j); });
+  }
+}
+
+/// Calls body(k, L) for every full block of L objects and body(k, n) for the n that are left. In the first the number is a
+/// constant, so that what depends on it costs nothing.
+template <int L, class Body>
+ZELM_INLINE void for_blocks(std::ptrdiff_t count, Body body) {
+  std::ptrdiff_t k = 0;
+  for (; k + L <= count; k += L) body(k, std::integral_constant<int, L>{});
+  if (k < count) body(k, int(count - k));
+}
+
+/// R x C elements of as many objects as a register has lanes.
 template <class T, int R, int C>
 struct Lanes {
+  static constexpr int L = Pack<T>::lanes;
   Pack<T> e[R][C];
+
+  /// Objects k, ..., k + valid - 1 of an array.
+  template <class View>
+  ZELM_INLINE void load(const View& view, std::ptrdiff_t k, int valid) {
+    if (view.interleaved() && valid == L) {
+      const auto first = view.object(k);
+      ZELM_UNROLL for (int i = 0; i < R; ++i) {
+        ZELM_UNROLL for (int j = 0; j < C; ++j) e[i][j] = Pack<T>::load(first.at(i, j));
+      }
+      return;
+    }
+    if constexpr (packable<View>) {
+      if (valid == L && view.tight(1, 3)) return packed_to_lanes(e[0], view.object(k).base);
+    }
+    typename View::Object objects[L];
+    ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = view.object(k, std::min(l, valid - 1));
+    ZELM_UNROLL for (int i = 0; i < R; ++i) load_row(e[i], objects, [&](int) { return i; });
+  }
+
+  template <class View>
+  ZELM_INLINE void store(const View& view, std::ptrdiff_t k, int valid) const {
+    if (valid < L) return store_some(view, k, valid);
+    if (view.interleaved()) {
+      const auto first = view.object(k);
+      ZELM_UNROLL for (int i = 0; i < R; ++i) {
+        ZELM_UNROLL for (int j = 0; j < C; ++j) e[i][j].store(first.at(i, j));
+      }
+      return;
+    }
+    if constexpr (packable<View>) {
+      if (view.tight(1, 3)) return lanes_to_packed(e[0], view.object(k).base);
+    }
+    typename View::Object objects[L];
+    ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = view.object(k, l);
+    ZELM_UNROLL for (int i = 0; i < R; ++i) store_row(e[i], objects, [&](int) { return i; });
+  }
+
+  /// Element (i, j) of the object in lane l: for what goes element by element.
+  T at(int l, int i, int j) const {
+    alignas(16) T lanes[L];
+    e[i][j].store(lanes);
+    return lanes[l];
+  }
+
+ private:
+  template <class View>
+  static constexpr bool packable = View::plain && View::array && R == 1 && C == 3 && std::is_same_v<T, float>;
+
+  template <class View>
+  __attribute__((noinline)) void store_some(const View& view, std::ptrdiff_t k, int valid) const {
+    for (int l = 0; l < valid; ++l) {
+      const auto object = view.object(k + l);
+      for (int i = 0; i < R; ++i)
+        for (int j = 0; j < C; ++j) zelm::store(object.at(i, j), at(l, i, j));
+    }
+  }
 };
-
-/// Gives body(l, row of the object in lane l) for L rows of N elements, from N registers whose lanes are objects.
-template <int N, class T, class Body>
-ZELM_INLINE void for_each_lane_row(const Pack<T> (&e)[N], Body body) {
-  constexpr int L = Pack<T>::lanes;
-  Row<T, N> rows[L];
-  ZELM_UNROLL for (int j = 0; j < N; j += L) {
-    Pack<T> tile[L];
-    ZELM_UNROLL for (int l = 0; l < L; ++l) tile[l] = j + l < N ? e[j + l < N ? j + l : 0] : Pack<T>::zero();
-    transpose(tile);
-    ZELM_UNROLL for (int l = 0; l < L; ++l) rows[l].pack[j / L] = tile[l];
-  }
-  ZELM_UNROLL for (int l = 0; l < L; ++l) body(l, rows[l]);
-}
-
-/// The other way: row_of(l) is the row of the object in lane l.
-template <int N, class T, class RowOf>
-ZELM_INLINE void to_lanes(Pack<T> (&e)[N], RowOf row_of) {
-  constexpr int L = Pack<T>::lanes;
-  Row<T, N> rows[L];
-  ZELM_UNROLL for (int l = 0; l < L; ++l) rows[l] = row_of(l);
-  ZELM_UNROLL for (int j = 0; j < N; j += L) {
-    Pack<T> tile[L];
-    ZELM_UNROLL for (int l = 0; l < L; ++l) tile[l] = rows[l].pack[j / L];
-    transpose(tile);
-    ZELM_UNROLL for (int l = 0; l < L; ++l)
-      if (j + l < N) e[j + l < N ? j + l : 0] = tile[l];
-  }
-}
-
-/// Elements of objects k, ..., k + valid - 1.
-template <int R, int C, class View>
-ZELM_INLINE void load_lanes(Lanes<typename View::T, R, C>& to, const View& view, std::ptrdiff_t k, int valid) {
-  constexpr int L = Pack<typename View::T>::lanes;
-  if (view.interleaved() && valid == L) {
-    const auto first = view.object(k);
-    ZELM_UNROLL for (int i = 0; i < R; ++i) {
-      ZELM_UNROLL for (int j = 0; j < C; ++j) to.e[i][j] = Pack<typename View::T>::load(first.at(i, j));
-    }
-    return;
-  }
-  typename View::Object objects[L];
-  ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = view.object(k + std::min(l, valid - 1));
-  ZELM_UNROLL for (int i = 0; i < R; ++i) to_lanes<C>(to.e[i], [&](int l) { return objects[l].template row<C>(i); });
-}
-
-template <int R, int C, class View>
-ZELM_INLINE void store_lanes(const Lanes<typename View::T, R, C>& from, const View& view, std::ptrdiff_t k, int valid) {
-  if (view.interleaved() && valid == Pack<typename View::T>::lanes) {
-    const auto first = view.object(k);
-    ZELM_UNROLL for (int i = 0; i < R; ++i) {
-      ZELM_UNROLL for (int j = 0; j < C; ++j) from.e[i][j].store(first.at(i, j));
-    }
-    return;
-  }
-  ZELM_UNROLL for (int i = 0; i < R; ++i)
-    for_each_lane_row<C>(from.e[i], [&](int l, const auto& row) {
-      if (l < valid) view.object(k + l).template set_row<C>(i, row);
-    });
-}
 
 }  // namespace zelm

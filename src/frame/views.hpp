@@ -93,6 +93,11 @@ struct StridedView {
   ZELM_INLINE Object object(std::ptrdiff_t k) const {
     return {array ? moved(first, k * stride0) : first, row_stride, element_stride};
   }
+  /// Object k + l. Several of them share the product with k, and those with a constant l leave the loop over k.
+  ZELM_INLINE Object object(std::ptrdiff_t k, int l) const {
+    const Object o = object(k);
+    return {array ? moved(o.base, l * stride0) : o.base, row_stride, element_stride};
+  }
   /// True if all elements of all objects form one run of memory without a gap, row by row and object by object.
   ZELM_INLINE bool tight(int rows, int columns) const {
     if constexpr (!adjacent) return false;
@@ -112,6 +117,7 @@ struct ListView {
   Bytes shift, row_stride, element_stride;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {moved(objects[k], shift), row_stride, element_stride}; }
+  ZELM_INLINE Object object(std::ptrdiff_t k, int l) const { return object(k + l); }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return false; }
 };
@@ -126,6 +132,9 @@ struct TableView {
   int columns;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {table, array ? shift + k * stride0 : shift, columns}; }
+  ZELM_INLINE Object object(std::ptrdiff_t k, int l) const {
+    return {table, array ? shift + k * stride0 + l * stride0 : shift, columns};
+  }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return array && stride0 == Bytes(sizeof(T)); }
 };
@@ -138,6 +147,7 @@ struct TransposedView {
   View stored;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {stored.object(k)}; }
+  ZELM_INLINE Object object(std::ptrdiff_t k, int l) const { return {stored.object(k, l)}; }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return stored.interleaved(); }
 };

