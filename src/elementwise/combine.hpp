@@ -56,7 +56,13 @@ void combine_fixed(const A& a, const B& b, const D& d, int count) {
     const auto& x = rows_of<R, C>(first.object(k));
     const auto& y = rows_of<R, C>(second.object(k));
     const auto z = d.object(k);
-    ZELM_UNROLL for (int i = 0; i < R; ++i) z.template set_row<C>(i, lanewise(Op{}, x.template row<C>(i), y.template row<C>(i)));
+    const auto row = [&](int i) { z.template set_row<C>(i, lanewise(Op{}, x.template row<C>(i), y.template row<C>(i))); };
+    // Element by element the rows gain nothing from standing one after the other, and the library would be twice as large.
+    if constexpr (std::decay_t<decltype(x)>::plain && std::decay_t<decltype(y)>::plain && z.plain) {
+      ZELM_UNROLL for (int i = 0; i < R; ++i) row(i);
+    } else {
+      ZELM_AS_IT_STANDS for (int i = 0; i < R; ++i) row(i);
+    }
   }
 }
 

@@ -72,7 +72,7 @@ template <class Object>
 struct TransposedObject {
   using T = typename Object::T;
   static constexpr bool plain = false;
-  static constexpr bool turned = true;
+  static constexpr bool turned = Object::plain;  // rows are columns of runs, to be transposed in registers
   Object stored;
 
   ZELM_INLINE auto at(int i, int j) const { return stored.at(j, i); }
@@ -223,15 +223,11 @@ ZELM_INLINE auto held(const View& view) {
   else return Held<Block<typename View::T, R, C>>{block_of<R, C>(view.object(0))};
 }
 
-/// What the rows of an object are taken from: itself, or a block where its rows do not lie in rows.
+/// What the rows of an object are taken from: itself, or a block where they are columns of runs.
 template <int R, int C, class Object>
 ZELM_INLINE auto rows_of(const Object& object) {
-  if constexpr (requires { Object::turned; }) {
-    if constexpr (Object::turned) return block_of<R, C>(object);
-    else return object;
-  } else {
-    return object;
-  }
+  if constexpr (Object::turned) return block_of<R, C>(object);
+  else return object;
 }
 
 }  // namespace zelm

@@ -46,6 +46,7 @@ ZELM_INLINE Row<T, N> lanewise(Op op, Row<T, N> a, Row<T, N> b) {
 
 template <class T, int R, int C>
 struct Block {
+  static constexpr bool plain = true, turned = false;  // as an object of contiguous rows
   Row<T, C> rows[R];
   template <int>
   ZELM_INLINE Row<T, C> row(int i) const { return rows[i]; }

@@ -29,6 +29,15 @@ struct Elimination {
   P finished;        // if tracked: rows of the factors that stand, N where the object succeeded
 
   ZELM_INLINE void run() {
+    if constexpr (tracked) run_apart();
+    else run_here();
+  }
+
+ private:
+  /// Seldom needed, so one copy serves all layouts.
+  __attribute__((noinline)) void run_apart() { run_here(); }
+
+  ZELM_INLINE void run_here() {
     singular = finished = P::zero();
     ZELM_UNROLL for (int i = 0; i < N; ++i) p[i] = P::splat(T(i));
     ZELM_UNROLL for (int k = 0; k < N - 1; ++k) {
@@ -38,7 +47,6 @@ struct Elimination {
     judge(abs(w.e[N - 1][N - 1]));
   }
 
- private:
   ZELM_INLINE void judge(P magnitude) {
     singular = singular | (P::splat(kSmallestPivot<T>) > magnitude);
     if constexpr (tracked) finished = finished + and_not(P::splat(T(1)), singular);
