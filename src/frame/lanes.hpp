@@ -94,7 +94,9 @@ template <int N, class Object, class RowOf>
 ZELM_INLINE void load_row(Pack<typename Object::T> (&e)[N], const Object* objects, RowOf row) {
   constexpr int L = Pack<typename Object::T>::lanes;
   if constexpr (Object::plain) {
-    rows_to_lanes(e, [&](int l) { return objects[l].at(row(l), 0); });
+    const typename Object::T* p[L];
+    ZELM_UNROLL for (int l = 0; l < L; ++l) p[l] = objects[l].at(row(l), 0);
+    rows_to_lanes(e, [&](int l) { return p[l]; });
   } else {
     ZELM_UNROLL for (int j = 0; j < N; ++j)
       e[j] = Pack<typename Object::T>::template gather<L>([&](int l) { return objects[l].at(row(l), j); });
@@ -105,7 +107,9 @@ template <int N, class Object, class RowOf>
 ZELM_INLINE void store_row(const Pack<typename Object::T> (&e)[N], const Object* objects, RowOf row) {
   constexpr int L = Pack<typename Object::T>::lanes;
   if constexpr (Object::plain) {
-    lanes_to_rows(e, [&](int l) { return objects[l].at(row(l), 0); });
+    typename Object::T* p[L];  // before the stores, which might change what row() reads
+    ZELM_UNROLL for (int l = 0; l < L; ++l) p[l] = objects[l].at(row(l), 0);
+    lanes_to_rows(e, [&](int l) { return p[l]; });
   } else {
     ZELM_UNROLL for (int j = 0; j < N; ++j) e[j].template scatter<L>([&](int l) { return objects[l].at(row(l), j); });
   }

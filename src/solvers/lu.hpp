@@ -40,10 +40,7 @@ struct Elimination {
   ZELM_INLINE void run_here() {
     singular = finished = P::zero();
     ZELM_UNROLL for (int i = 0; i < N; ++i) p[i] = P::splat(T(i));
-    ZELM_UNROLL for (int k = 0; k < N - 1; ++k) {
-      judge(bring_pivot(k));
-      eliminate(k);
-    }
+    ZELM_UNROLL for (int k = 0; k < N - 1; ++k) step(k);
     judge(abs(w.e[N - 1][N - 1]));
   }
 
@@ -52,36 +49,39 @@ struct Elimination {
     if constexpr (tracked) finished = finished + and_not(P::splat(T(1)), singular);
   }
 
-  /// Brings the largest magnitude of column k to row k; the first of equals wins and a NaN never does. Returns the magnitude.
-  ZELM_INLINE P bring_pivot(int k) {
-    P best = abs(w.e[k][k]), larger[N];
+  /// Masks of the lanes in which row i has the largest magnitude of column k, the first of equals; a NaN never wins. Where row k
+  /// itself has it, no mask is set. Returns the magnitude.
+  ZELM_INLINE P find_pivot(int k, P (&here)[N]) const {
+    P best = abs(w.e[k][k]);
     ZELM_UNROLL for (int i = k + 1; i < N; ++i) {
       const P magnitude = abs(w.e[i][k]);
-      larger[i] = magnitude > best;
+      here[i] = magnitude > best;
       best = max_or_second(magnitude, best);
     }
-    // The last row that was larger than all before it is the one to exchange with row k.
-    P taken = tracked ? singular : P::zero();
+    P later = tracked ? singular : P::zero();  // of the rows larger than all before them the last is the largest
     ZELM_UNROLL for (int i = N - 1; i > k; --i) {
-      const P here = i == N - 1 && !tracked ? larger[i] : and_not(larger[i], taken);
-      if (i > k + 1) taken = taken | larger[i];
-      swap(here, p[i], p[k]);
-      ZELM_UNROLL for (int j = 0; j < N; ++j) swap(here, w.e[i][j], w.e[k][j]);
+      const P larger = here[i];
+      if (tracked || i < N - 1) here[i] = and_not(larger, later);
+      later = later | larger;
     }
     return best;
   }
 
-  static ZELM_INLINE void swap(P mask, P& a, P& b) {
-    const P old = a;
-    a = select(mask, b, a);
-    b = select(mask, old, b);
-  }
-
-  /// One reciprocal for two and more multipliers, a division for the last one alone.
-  ZELM_INLINE void eliminate(int k) {
-    const P pivot = w.e[k][k];
-    const P inverse = k < N - 2 ? P::splat(T(1)) / pivot : pivot;
+  /// Exchanges row k with the pivot's and eliminates column k. The pivot's row is put together first, so that every row below is
+  /// read and written once. One reciprocal serves two and more multipliers, the last one alone is a division.
+  ZELM_INLINE void step(int k) {
+    P here[N];
+    judge(find_pivot(k, here));
+    P old[N], old_p = p[k];
+    ZELM_UNROLL for (int j = 0; j < N; ++j) old[j] = w.e[k][j];
     ZELM_UNROLL for (int i = k + 1; i < N; ++i) {
+      ZELM_UNROLL for (int j = 0; j < N; ++j) w.e[k][j] = select(here[i], w.e[i][j], w.e[k][j]);
+      p[k] = select(here[i], p[i], p[k]);
+    }
+    const P pivot = w.e[k][k], inverse = k < N - 2 ? P::splat(T(1)) / pivot : pivot;
+    ZELM_UNROLL for (int i = k + 1; i < N; ++i) {
+      ZELM_UNROLL for (int j = 0; j < N; ++j) w.e[i][j] = select(here[i], old[j], w.e[i][j]);
+      p[i] = select(here[i], old_p, p[i]);
       const P m = k < N - 2 ? w.e[i][k] * inverse : w.e[i][k] / pivot;
       w.e[i][k] = m;
       ZELM_UNROLL for (int j = k + 1; j < N; ++j) w.e[i][j] = w.e[i][j] - w.e[k][j] * m;
