@@ -115,13 +115,19 @@ ZELM_INLINE void store_row(const Pack<typename Object::T> (&e)[N], const Object*
   }
 }
 
+template <class Body>
+__attribute__((noinline)) void last_block(Body body, std::ptrdiff_t k, int n) {
+  body(k, n);
+}
+
 /// Calls body(k, L) for every full block of L objects and body(k, n) for the n that are left. In the first the number is a
-/// constant, so that what depends on it costs nothing.
+/// constant, so that what depends on it costs nothing. The body should be inlined, and hold views by value: the last call gets a
+/// copy of it, so nothing that the loop uses is ever seen by another function, and it stays in registers.
 template <int L, class Body>
 ZELM_INLINE void for_blocks(std::ptrdiff_t count, Body body) {
   std::ptrdiff_t k = 0;
   for (; k + L <= count; k += L) body(k, std::integral_constant<int, L>{});
-  if (k < count) body(k, int(count - k));
+  if (k < count) last_block(body, k, int(count - k));
 }
 
 /// R x C elements of as many objects as a register has lanes.
@@ -144,7 +150,7 @@ struct Lanes {
       if (valid == L && view.tight(1, 3)) return packed_to_lanes(e[0], view.object(k).base);
     }
     typename View::Object objects[L];
-    ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = view.object(k, std::min(l, valid - 1));
+    view.objects(k, valid, objects);
     ZELM_UNROLL for (int i = 0; i < R; ++i) load_row(e[i], objects, [&](int) { return i; });
   }
 
@@ -162,7 +168,7 @@ struct Lanes {
       if (view.tight(1, 3)) return lanes_to_packed(e[0], view.object(k).base);
     }
     typename View::Object objects[L];
-    ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = view.object(k, l);
+    view.objects(k, L, objects);
     ZELM_UNROLL for (int i = 0; i < R; ++i) store_row(e[i], objects, [&](int) { return i; });
   }
 

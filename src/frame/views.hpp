@@ -93,10 +93,14 @@ struct StridedView {
   ZELM_INLINE Object object(std::ptrdiff_t k) const {
     return {array ? moved(first, k * stride0) : first, row_stride, element_stride};
   }
-  /// Object k + l. Several of them share the product with k, and those with a constant l leave the loop over k.
-  ZELM_INLINE Object object(std::ptrdiff_t k, int l) const {
-    const Object o = object(k);
-    return {array ? moved(o.base, l * stride0) : o.base, row_stride, element_stride};
+  /// Objects k, ..., k + valid - 1 and, in the places behind, the last of them. The address of the first is hidden from the
+  /// compiler, which would else carry the address of every row of every object along in the loop over k.
+  template <int L>
+  ZELM_INLINE void objects(std::ptrdiff_t k, int valid, Object (&to)[L]) const {
+    Object o = object(k);
+    __asm__("" : "+r"(o.base));
+    ZELM_UNROLL for (int l = 0; l < L; ++l)
+      to[l] = {array ? moved(o.base, (l < valid ? l : valid - 1) * stride0) : o.base, row_stride, element_stride};
   }
   /// True if all elements of all objects form one run of memory without a gap, row by row and object by object.
   ZELM_INLINE bool tight(int rows, int columns) const {
@@ -113,11 +117,14 @@ struct ListView {
   using T = std::remove_const_t<Element>;
   using Object = StridedObject<Element, adjacent>;
   static constexpr bool array = true, plain = false;
-  Element* const* objects;
+  Element* const* list;
   Bytes shift, row_stride, element_stride;
 
-  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {moved(objects[k], shift), row_stride, element_stride}; }
-  ZELM_INLINE Object object(std::ptrdiff_t k, int l) const { return object(k + l); }
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {moved(list[k], shift), row_stride, element_stride}; }
+  template <int L>
+  ZELM_INLINE void objects(std::ptrdiff_t k, int valid, Object (&to)[L]) const {
+    ZELM_UNROLL for (int l = 0; l < L; ++l) to[l] = object(k + (l < valid ? l : valid - 1));
+  }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return false; }
 };
@@ -132,8 +139,9 @@ struct TableView {
   int columns;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {table, array ? shift + k * stride0 : shift, columns}; }
-  ZELM_INLINE Object object(std::ptrdiff_t k, int l) const {
-    return {table, array ? shift + k * stride0 + l * stride0 : shift, columns};
+  template <int L>
+  ZELM_INLINE void objects(std::ptrdiff_t k, int valid, Object (&to)[L]) const {
+    ZELM_UNROLL for (int l = 0; l < L; ++l) to[l] = object(k + (l < valid ? l : valid - 1));
   }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return array && stride0 == Bytes(sizeof(T)); }
@@ -147,7 +155,6 @@ struct TransposedView {
   View stored;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {stored.object(k)}; }
-  ZELM_INLINE Object object(std::ptrdiff_t k, int l) const { return {stored.object(k, l)}; }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return stored.interleaved(); }
 };

@@ -12,6 +12,7 @@
 // Loops that the compiler would only blow up: their bodies are packs already, or they run a few times.
 #define ZELM_AS_IT_STANDS _Pragma("clang loop vectorize(disable) unroll(disable)")
 #define ZELM_INLINE inline __attribute__((always_inline))
+#define ZELM_INLINE_LAMBDA __attribute__((always_inline))
 
 namespace zelm {
 

@@ -6,6 +6,7 @@
 // Growth and error bounds: Higham, Accuracy and Stability of Numerical Algorithms, 2nd ed., sections 9.3 and 8.2; measured in
 // tests/solvers/lu_accuracy_test.cpp.
 #pragma once
+#include <array>
 #include <limits>
 
 #include "frame/lanes.hpp"
@@ -139,7 +140,7 @@ ZelStatus decompose_fixed(A a, int* index, D d, int count) {
     store_order<L>(entries, order);
     __asm__ volatile("" ::: "memory");
     typename D::Object objects[L];
-    ZELM_UNROLL for (int l = 0; l < L; ++l) objects[l] = d.object(k, l);
+    d.objects(k, L, objects);
     ZELM_UNROLL for (int i = 0; i < N; ++i) store_row(f.w.e[i], objects, [&](int l) { return load(order + l * N + i); });
   }
   return k < count ? decompose_some<N>(a, index, d, k, int(count - k)) : zelStsOk;
@@ -183,16 +184,13 @@ template <int N, class A, class B, class D>
 void solve_each(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  for_blocks<L>(count, [&](std::ptrdiff_t k, auto valid) {
+  for_blocks<L>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
     typename A::Object matrices[L];
     typename B::Object vectors[L];
     const int* order[L];
-    ZELM_UNROLL for (int l = 0; l < L; ++l) {
-      const int lane = std::min<int>(l, valid - 1);
-      matrices[l] = a.object(k, lane);
-      vectors[l] = b.object(k, lane);
-      order[l] = index + (k + lane) * N;
-    }
+    a.objects(k, valid, matrices);
+    b.objects(k, valid, vectors);
+    ZELM_UNROLL for (int l = 0; l < L; ++l) order[l] = index + (k + std::min<int>(l, valid - 1)) * N;
     Lanes<T, N, N> f;
     Lanes<T, 1, N> x;
     ZELM_UNROLL for (int i = 0; i < N; ++i) {
@@ -269,28 +267,30 @@ struct InverseFactors {
 
 /// Many vectors with one matrix; apply(x) solves for the vectors in the lanes of x, which come in pivot order.
 template <int N, class B, class D, class Apply>
-ZELM_INLINE void solve_vectors(const B& b, const int* index, const D& d, int count, Apply apply) {
+ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply apply) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  int order[N];
-  bool permutation = true;  // entries are used as they stand: elsewhere than 0 to N - 1 they are read from memory
-  for (int i = 0; i < N; ++i) {
-    order[i] = load(index + i);
-    permutation &= unsigned(order[i]) < unsigned(N);
-  }
-  for_blocks<L>(count, [&](std::ptrdiff_t k, auto valid) {
-    Lanes<T, 1, N> x;
-    if (permutation) {
-      Lanes<T, 1, N> natural;
+  bool permutation = true;
+  for (int i = 0; i < N; ++i) permutation &= unsigned(load(index + i)) < unsigned(N);
+  if (permutation) {
+    std::array<int, N> order;
+    for (int i = 0; i < N; ++i) order[i] = load(index + i);
+    for_blocks<L>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
+      Lanes<T, 1, N> natural, x;
       natural.load(b, k, valid);
       ZELM_UNROLL for (int i = 0; i < N; ++i) x.e[0][i] = natural.e[0][order[i]];
-    } else {
-      for (int i = 0; i < N; ++i)
-        x.e[0][i] = Pack<T>::template gather<L>([&](int l) { return b.object(k, std::min<int>(l, valid - 1)).at(0, order[i]); });
-    }
-    apply(x.e[0]);
-    x.store(d, k, valid);
-  });
+      apply(x.e[0]);
+      x.store(d, k, valid);
+    });
+  } else {
+    // Entries are used as they stand: elsewhere than 0 to N - 1 they are read from memory.
+    for (std::ptrdiff_t k = 0; k < count; ++k) last_block([=](std::ptrdiff_t at, int) {
+      Lanes<T, 1, N> x;
+      for (int i = 0; i < N; ++i) x.e[0][i] = Pack<T>::splat(load(b.object(at).at(0, load(index + i))));
+      apply(x.e[0]);
+      x.store(d, at, 1);
+    }, k, 1);
+  }
 }
 
 template <int N, class A, class B, class D>
@@ -301,11 +301,11 @@ void solve_one_matrix(A a, const int* index, B b, D d, int count) {
   if constexpr (std::is_same_v<T, float> && A::plain && B::plain && D::plain) {
     if (count > 2) {
       const InverseFactors<T, N> inverse(f);
-      solve_vectors<N>(b, index, d, count, [&](auto& x) { inverse.apply(x); });
+      solve_vectors<N>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA { inverse.apply(x); });
       return;
     }
   }
-  solve_vectors<N>(b, index, d, count, [&](auto& x) {
+  solve_vectors<N>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA {
     substitute<N>(x, [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v * f.inverse[i]; });
   });
 }
