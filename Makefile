@@ -23,10 +23,10 @@ test: ## all tests on both builds, and under the sanitizers
 	@tools/setup.sh build test demo
 	tools/test.sh
 
-bench: ## times every built family against its rivals
+bench: ## times every built family against its rivals; FAMILY=LUDecomp for some
 	@tools/setup.sh build bench
 	cmake --preset x86_64 && cmake --build --preset x86_64 -j $(JOBS) --target zelm_bench
-	build/x86_64/bin/zelm_bench
+	build/x86_64/bin/zelm_bench $(FAMILY)
 
 install: ## PREFIX, DESTDIR; PRESET=i386 for the 32-bit library
 	@tools/setup.sh build
