@@ -22,8 +22,7 @@ bool matrices(const char* operation, F f, const std::vector<Limit>& limits) {
     constexpr int E = sizeof(T);
     const int row = n * E, matrix = n * row;
     const auto call = [=](const Array* at, int count) {
-      return f(at[0].of<T>(), matrix, row, E, at[1].of<T>(), matrix, row, E, at[2].of<T>(), matrix, row, E, n, n,
-               count);
+      return f(at[0].of<T>(), matrix, row, E, at[1].of<T>(), matrix, row, E, at[2].of<T>(), matrix, row, E, n, n, count);
     };
     measure({.operation = operation,
              .type = kTypeTag<T>,
@@ -113,9 +112,8 @@ bool one_object(F f) {
     constexpr int E = sizeof(T);
     Case c{.operation = "Add_mm", .type = kTypeTag<T>, .n = n};
     c.operands = {single(in<T>(n * n)), single(in<T>(n * n)), single(out<T>(n * n))};
-    c.call = repeated([=](const Array* at) {
-      return f(at[0].of<T>(), n * E, E, at[1].of<T>(), n * E, E, at[2].of<T>(), n * E, E, n, n);
-    });
+    c.call = repeated(
+        [=](const Array* at) { return f(at[0].of<T>(), n * E, E, at[1].of<T>(), n * E, E, at[2].of<T>(), n * E, E, n, n); });
     if (n == 4 && E == 4) c.limits = {{12, "ns", {Set::call}}};
     c.sets = {Set::call};
     c.threads = {1};
@@ -129,14 +127,13 @@ const bool all =
     matrices<float>("Add_mama", zelmAdd_mama_32f, kStream) && matrices<double>("Add_mama", zelmAdd_mama_64f, kStream) &&
     other_layouts() &&  //
     matrices_and_one<float>("Add_mam", zelmAdd_mam_32f) && matrices_and_one<double>("Add_mam", zelmAdd_mam_64f) &&
-    matrices<float>("Add_tama", zelmAdd_tama_32f, kBeyondL1) &&
-    matrices<double>("Add_tama", zelmAdd_tama_64f, kBeyondL1) && vectors<float>("Add_vava", zelmAdd_vava_32f) &&
-    vectors<double>("Add_vava", zelmAdd_vava_64f) && vectors_and_one<float>("Add_vav", zelmAdd_vav_32f) &&
-    vectors_and_one<double>("Add_vav", zelmAdd_vav_64f) && matrices<float>("Sub_mama", zelmSub_mama_32f, kStream) &&
-    matrices<double>("Sub_mama", zelmSub_mama_64f, kStream) && matrices_and_one<float>("Sub_mam", zelmSub_mam_32f) &&
-    matrices_and_one<double>("Sub_mam", zelmSub_mam_64f) && matrices<float>("Sub_mata", zelmSub_mata_32f, kBeyondL1) &&
-    matrices<double>("Sub_mata", zelmSub_mata_64f, kBeyondL1) && vectors<float>("Sub_vava", zelmSub_vava_32f) &&
-    vectors<double>("Sub_vava", zelmSub_vava_64f);
+    matrices<float>("Add_tama", zelmAdd_tama_32f, kBeyondL1) && matrices<double>("Add_tama", zelmAdd_tama_64f, kBeyondL1) &&
+    vectors<float>("Add_vava", zelmAdd_vava_32f) && vectors<double>("Add_vava", zelmAdd_vava_64f) &&
+    vectors_and_one<float>("Add_vav", zelmAdd_vav_32f) && vectors_and_one<double>("Add_vav", zelmAdd_vav_64f) &&
+    matrices<float>("Sub_mama", zelmSub_mama_32f, kStream) && matrices<double>("Sub_mama", zelmSub_mama_64f, kStream) &&
+    matrices_and_one<float>("Sub_mam", zelmSub_mam_32f) && matrices_and_one<double>("Sub_mam", zelmSub_mam_64f) &&
+    matrices<float>("Sub_mata", zelmSub_mata_32f, kBeyondL1) && matrices<double>("Sub_mata", zelmSub_mata_64f, kBeyondL1) &&
+    vectors<float>("Sub_vava", zelmSub_vava_32f) && vectors<double>("Sub_vava", zelmSub_vava_64f);
 
 }  // namespace
 }  // namespace zelm::bench

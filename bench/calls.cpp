@@ -7,9 +7,7 @@ namespace {
 ZelStatus nothing() { return zelStsOk; }
 
 /// With the arguments of zelmAdd_mm_32f.
-ZelStatus nothing_of_eleven(const float*, int, int, const float*, int, int, float*, int, int, int, int) {
-  return zelStsOk;
-}
+ZelStatus nothing_of_eleven(const float*, int, int, const float*, int, int, float*, int, int, int, int) { return zelStsOk; }
 
 // Through pointers of which the compiler cannot know where they lead: calls to another library.
 ZelStatus (*volatile call_nothing)() = nothing;
@@ -24,11 +22,11 @@ bool call(const char* name, std::function<ZelStatus(const Array*, int)> calls) {
   return measure(c);
 }
 
-const bool all = call("(empty function)", repeated([](const Array*) { return call_nothing(); })) &&
-                 call("(empty function of 11 arguments)", repeated([](const Array* at) {
-                        return call_nothing_of_eleven(at[0].of<float>(), 16, 4, at[1].of<float>(), 16, 4,
-                                                      at[2].of<float>(), 16, 4, 4, 4);
-                      }));
+const bool all =
+    call("(empty function)", repeated([](const Array*) { return call_nothing(); })) &&
+    call("(empty function of 11 arguments)", repeated([](const Array* at) {
+           return call_nothing_of_eleven(at[0].of<float>(), 16, 4, at[1].of<float>(), 16, 4, at[2].of<float>(), 16, 4, 4, 4);
+         }));
 
 }  // namespace
 }  // namespace zelm::bench

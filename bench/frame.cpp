@@ -35,8 +35,7 @@ class Arena {
       if (base_) munmap(base_, size_);
       size_ = 0;
       void* const base = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-      if (base == MAP_FAILED)
-        throw std::runtime_error("no memory for a working set of " + std::to_string(bytes) + " bytes");
+      if (base == MAP_FAILED) throw std::runtime_error("no memory for a working set of " + std::to_string(bytes) + " bytes");
       base_ = static_cast<char*>(base);
       size_ = bytes;
     }
@@ -132,26 +131,21 @@ class Arrays {
         const Operand& o = case_.operands[i];
         const std::size_t elements = std::min(objects(o), std::size_t(different)) * std::size_t(o.elements);
         if (o.output) continue;
-        if (o.element_bytes == 4)
-          fill_uniform(arrays_[i].of<float>(), elements);
-        else
-          fill_uniform(arrays_[i].of<double>(), elements);
+        if (o.element_bytes == 4) fill_uniform(arrays_[i].of<float>(), elements);
+        else fill_uniform(arrays_[i].of<double>(), elements);
       }
     }
     for (std::size_t i = 0; i < arrays_.size(); ++i) {
       const Operand& o = case_.operands[i];
       const std::size_t all = objects(o) * object_bytes(o),
                         first = std::min(objects(o), std::size_t(different)) * object_bytes(o);
-      if (o.output)
-        std::memset(arrays_[i].data, 0, all);
+      if (o.output) std::memset(arrays_[i].data, 0, all);
       else
         for (std::size_t done = first; done < all; done += first)
           std::memcpy(tight(i, 0) + done, tight(i, 0), std::min(first, all - done));
       if (o.layout == Layout::elements) {
-        if (o.element_bytes == 4)
-          interleave<std::uint32_t>(i);
-        else
-          interleave<std::uint64_t>(i);
+        if (o.element_bytes == 4) interleave<std::uint32_t>(i);
+        else interleave<std::uint64_t>(i);
       }
     }
   }
@@ -273,10 +267,9 @@ void check(const Case& c, const Arrays& arrays, const std::vector<Competitor>& c
       for (std::size_t e = 0; e < values.size(); ++e)
         if (!(std::abs(values[e] - expected[s][e]) <= c.tolerance * largest)) {
           char text[200];
-          std::snprintf(text, sizeof text,
-                        "%s, size %d, object %td of %td, value %zu: zelm has %.17g, %s (%s) has %.17g",
-                        c.function().c_str(), c.n, sample[s], arrays.count(), e, expected[s][e],
-                        competitor.name.c_str(), competitor.isa.c_str(), values[e]);
+          std::snprintf(text, sizeof text, "%s, size %d, object %td of %td, value %zu: zelm has %.17g, %s (%s) has %.17g",
+                        c.function().c_str(), c.n, sample[s], arrays.count(), e, expected[s][e], competitor.name.c_str(),
+                        competitor.isa.c_str(), values[e]);
           throw std::runtime_error(text);
         }
     }
@@ -293,14 +286,10 @@ struct Patience {
 Patience patience(Set set) {
   switch (set) {
     case Set::call:
-    case Set::l1:
-      return {9, 1.5e-3};
-    case Set::llc:
-      return {7, 5e-3};
-    case Set::memory:
-      return {3, 1e-9};  // one run each
-    case Set::many:
-      return {9, 5e-3};
+    case Set::l1: return {9, 1.5e-3};
+    case Set::llc: return {7, 5e-3};
+    case Set::memory: return {3, 1e-9};  // one run each
+    case Set::many: return {9, 5e-3};
   }
   return {};
 }
@@ -339,16 +328,14 @@ struct Measured {
 /// thread is timed by its own clock, which stands still while another program has the processor.
 std::vector<Measured> time(const std::vector<Competitor>& competitors, Patience p) {
   benchmark::ClearRegisteredBenchmarks();
-  const bool wall =
-      std::any_of(competitors.begin(), competitors.end(), [](const Competitor& k) { return k.threads > 1; });
+  const bool wall = std::any_of(competitors.begin(), competitors.end(), [](const Competitor& k) { return k.threads > 1; });
   for (std::size_t i = 0; i < competitors.size(); ++i) {
     const Competitor& competitor = competitors[i];
     const auto registered = benchmark::RegisterBenchmark(std::to_string(i).c_str(),
                                                          [&competitor](benchmark::State& state) {
                                                            // Threads of an earlier team spin for a while, and might
                                                            // share a core with this one.
-                                                           if (competitor.threads == 1)
-                                                             omp_pause_resource_all(omp_pause_soft);
+                                                           if (competitor.threads == 1) omp_pause_resource_all(omp_pause_soft);
                                                            for (auto _ : state) competitor.run();
                                                          })
                                 ->Repetitions(p.repetitions)
@@ -374,12 +361,9 @@ double working_bytes(const Case& c) {
 
 std::ptrdiff_t objects_in(Set set, double bytes_per_object) {
   switch (set) {
-    case Set::call:
-      return 1000;
-    case Set::many:
-      return 100000;
-    default:
-      return std::max(std::ptrdiff_t(double(sizes().set[int(set)]) / bytes_per_object), std::ptrdiff_t(8));
+    case Set::call: return 1000;
+    case Set::many: return 100000;
+    default: return std::max(std::ptrdiff_t(double(sizes().set[int(set)]) / bytes_per_object), std::ptrdiff_t(8));
   }
 }
 
@@ -387,16 +371,11 @@ std::ptrdiff_t objects_in(Set set, double bytes_per_object) {
 
 const char* name(Set set) {
   switch (set) {
-    case Set::call:
-      return "call";
-    case Set::l1:
-      return "L1";
-    case Set::llc:
-      return "LLC";
-    case Set::memory:
-      return "memory";
-    case Set::many:
-      return "100k";
+    case Set::call: return "call";
+    case Set::l1: return "L1";
+    case Set::llc: return "LLC";
+    case Set::memory: return "memory";
+    case Set::many: return "100k";
   }
   return "";
 }
@@ -454,8 +433,7 @@ std::vector<Bandwidth> measure_bandwidth(const std::vector<Set>& sets) {
   std::vector<Bandwidth> found;
   for (const Set set : {Set::l1, Set::llc, Set::memory}) {
     if (!among(set, sets)) continue;
-    for (const auto& [label, arrays_moved] :
-         {std::pair("read", 1), {"copy", 2}, {"triad", 3}, {"memcpy", 2}, {"memset", 1}}) {
+    for (const auto& [label, arrays_moved] : {std::pair("read", 1), {"copy", 2}, {"triad", 3}, {"memcpy", 2}, {"memset", 1}}) {
       // Each fills the working set with the arrays it has; the others are one float.
       const bool reads = std::string(label) != "memset", writes = std::string(label) != "read";
       Case c{.operation = "bandwidth", .type = "32f", .n = 1};

@@ -80,8 +80,7 @@ Case decompose(int n, Layout layout) {
       break;
     case Layout::list:
       c.call = [=](const Array* at, int count) {
-        return F::decompose_list(at[0].table_of<T>(), 0, row, E, at[1].of<int>(), at[2].table_of<T>(), 0, row, E, n,
-                                 count);
+        return F::decompose_list(at[0].table_of<T>(), 0, row, E, at[1].of<int>(), at[2].table_of<T>(), 0, row, E, n, count);
       };
       break;
     case Layout::elements:
@@ -146,8 +145,8 @@ Case solve_each(int n, Layout layout) {
   switch (layout) {
     case Layout::standard:
       c.call = [=](const Array* at, int count) {
-        return F::solve_each(at[0].of<T>(), matrix, row, E, at[1].of<int>(), at[2].of<T>(), row, E, at[3].of<T>(), row,
-                             E, n, count);
+        return F::solve_each(at[0].of<T>(), matrix, row, E, at[1].of<int>(), at[2].of<T>(), row, E, at[3].of<T>(), row, E, n,
+                             count);
       };
       break;
     case Layout::list:
@@ -175,8 +174,8 @@ Case solve_vectors(int n) {
   c.fill = [=](const Array* at, int count) { fill_systems<T>(at, count, n, true); };
   c.tolerance = tolerance<T>(n);
   c.call = [=](const Array* at, int count) {
-    return Functions<T>::solve_vectors(at[0].of<T>(), row, E, at[1].of<int>(), at[2].of<T>(), row, E, at[3].of<T>(),
-                                       row, E, n, count);
+    return Functions<T>::solve_vectors(at[0].of<T>(), row, E, at[1].of<int>(), at[2].of<T>(), row, E, at[3].of<T>(), row, E, n,
+                                       count);
   };
   return c;
 }

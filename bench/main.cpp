@@ -42,8 +42,7 @@ std::vector<Set> parse_sets(const std::string& text) {
     const std::size_t end = std::min(text.find(',', at), text.size());
     const std::string wanted = text.substr(at, end - at);
     const auto known = std::find_if(std::begin(kSets), std::end(kSets), [&](Set s) { return wanted == name(s); });
-    if (known == std::end(kSets))
-      throw std::runtime_error("--arrays knows call, L1, LLC, memory, 100k, not '" + wanted + "'");
+    if (known == std::end(kSets)) throw std::runtime_error("--arrays knows call, L1, LLC, memory, 100k, not '" + wanted + "'");
     sets.push_back(*known);
     at = end + 1;
   }
@@ -58,18 +57,12 @@ Options parse(int argc, char** argv) {
       if (++i == argc) throw std::runtime_error(argument + " needs a value");
       return std::string(argv[i]);
     };
-    if (argument == "--help" || argument == "-h")
-      options.help = true;
-    else if (argument == "--list")
-      options.list = true;
-    else if (argument == "--json")
-      options.json = value();
-    else if (argument == "--arrays")
-      options.sets = parse_sets(value());
-    else if (argument.starts_with('-'))
-      throw std::runtime_error("unknown option " + argument + "; try --help");
-    else
-      options.functions.push_back(argument);
+    if (argument == "--help" || argument == "-h") options.help = true;
+    else if (argument == "--list") options.list = true;
+    else if (argument == "--json") options.json = value();
+    else if (argument == "--arrays") options.sets = parse_sets(value());
+    else if (argument.starts_with('-')) throw std::runtime_error("unknown option " + argument + "; try --help");
+    else options.functions.push_back(argument);
   }
   return options;
 }
@@ -77,13 +70,11 @@ Options parse(int argc, char** argv) {
 std::vector<const Case*> selected(const std::vector<std::string>& functions) {
   std::vector<const Case*> chosen;
   for (const Case& c : cases())
-    if (functions.empty() || std::any_of(functions.begin(), functions.end(), [&](const std::string& f) {
-          return c.function().find(f) != std::string::npos;
-        }))
+    if (functions.empty() || std::any_of(functions.begin(), functions.end(),
+                                         [&](const std::string& f) { return c.function().find(f) != std::string::npos; }))
       chosen.push_back(&c);
   for (const std::string& f : functions)
-    if (std::none_of(chosen.begin(), chosen.end(),
-                     [&](const Case* c) { return c->function().find(f) != std::string::npos; }))
+    if (std::none_of(chosen.begin(), chosen.end(), [&](const Case* c) { return c->function().find(f) != std::string::npos; }))
       throw std::runtime_error("no function's name contains '" + f + "'; try --list");
   return chosen;
 }
@@ -113,10 +104,8 @@ void run(const Options& options) {
 int main(int argc, char** argv) {
   try {
     const auto options = zelm::bench::parse(argc, argv);
-    if (options.help)
-      std::fputs(zelm::bench::kUsage, stdout);
-    else
-      zelm::bench::run(options);
+    if (options.help) std::fputs(zelm::bench::kUsage, stdout);
+    else zelm::bench::run(options);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "zelm_bench: %s\n", error.what());
     return 1;

@@ -39,10 +39,8 @@ std::string first_line(const char* file) {
 
 std::string bytes(std::size_t n) {
   char text[32];
-  if (n < (1 << 20))
-    std::snprintf(text, sizeof text, "%zu KiB", n >> 10);
-  else
-    std::snprintf(text, sizeof text, "%zu MiB", n >> 20);
+  if (n < (1 << 20)) std::snprintf(text, sizeof text, "%zu KiB", n >> 10);
+  else std::snprintf(text, sizeof text, "%zu MiB", n >> 20);
   return text;
 }
 
@@ -70,14 +68,11 @@ Report::Report(const std::string& json_file)
   const Sizes s = sizes();
   double load = 0;
   getloadavg(&load, 1);
-  std::printf("%s, %ld processors, load %.2f, %s\n", processor_.c_str(), sysconf(_SC_NPROCESSORS_ONLN), load,
-              when_.c_str());
+  std::printf("%s, %ld processors, load %.2f, %s\n", processor_.c_str(), sysconf(_SC_NPROCESSORS_ONLN), load, when_.c_str());
   std::printf("caches: %s first level, %s second, %s last; transparent huge pages: %s\n", bytes(s.l1).c_str(),
-              bytes(s.l2).c_str(), bytes(s.llc).c_str(),
-              first_line("/sys/kernel/mm/transparent_hugepage/enabled").c_str());
-  std::printf("working sets, all arrays of a call together: L1 %s, LLC %s, memory %s\n",
-              bytes(s.set[int(Set::l1)]).c_str(), bytes(s.set[int(Set::llc)]).c_str(),
-              bytes(s.set[int(Set::memory)]).c_str());
+              bytes(s.l2).c_str(), bytes(s.llc).c_str(), first_line("/sys/kernel/mm/transparent_hugepage/enabled").c_str());
+  std::printf("working sets, all arrays of a call together: L1 %s, LLC %s, memory %s\n", bytes(s.set[int(Set::l1)]).c_str(),
+              bytes(s.set[int(Set::llc)]).c_str(), bytes(s.set[int(Set::memory)]).c_str());
   std::printf(
       "rivals: Eigen's fixed-size types over Map, plain loops; compiled by clang %s with -O2, for SSE4.2 with\n"
       "  -msse4.2, native with -march=native; all on tight arrays in standard layout, also beside _L and _P\n",
@@ -97,8 +92,7 @@ void Report::bandwidth(std::vector<Bandwidth> measured) {
   const Bandwidth* line = nullptr;
   for (const Bandwidth& b : bandwidth_) {
     if (!line || line->set != b.set || line->threads != b.threads)
-      std::printf("%s  %-7s %d thread%s", line ? "\n" : "", zelm::bench::name(b.set), b.threads,
-                  b.threads == 1 ? " " : "s");
+      std::printf("%s  %-7s %d thread%s", line ? "\n" : "", zelm::bench::name(b.set), b.threads, b.threads == 1 ? " " : "s");
     std::printf("  %s %5.1f", b.name.c_str(), b.bytes_per_ns);
     line = &b;
   }
@@ -143,10 +137,8 @@ void Report::row(const Row& row) {
   }
   std::printf("%4d  %-7s %6d %10td %8.2f", row.of->n, zelm::bench::name(row.set), row.threads, row.count, row.ns);
   const auto rival = [&](const Timing* t) {
-    if (t)
-      std::printf("   %8.2f %-10s %5.2f", t->ns, t->name.c_str(), row.ns / t->ns);
-    else
-      std::printf("   %8s %-10s %5s", "-", "", "");
+    if (t) std::printf("   %8.2f %-10s %5.2f", t->ns, t->name.c_str(), row.ns / t->ns);
+    else std::printf("   %8s %-10s %5s", "-", "", "");
   };
   if (row.set == Set::many) {
     rival(&row.rivals[0]);
@@ -155,10 +147,8 @@ void Report::row(const Row& row) {
     rival(best(row, "SSE4.2"));
     rival(best(row, "native"));
   }
-  if (row.bytes > 0)
-    std::printf("   %6.1f", row.bytes / row.ns);
-  else
-    std::printf("   %6s", "-");
+  if (row.bytes > 0) std::printf("   %6.1f", row.bytes / row.ns);
+  else std::printf("   %6s", "-");
   for (const Verdict& v : verdicts(row)) std::printf("  %s%s", v.text.c_str(), v.kept ? "" : " MISSED");
   std::printf("%s\n", steady(row) ? "" : "  unsteady");
   std::fflush(stdout);
@@ -193,8 +183,7 @@ void Report::finish() {
   for (const auto& [key, tally] : tallies) {
     const bool all = tally.kept == tally.rows;
     kept += all;
-    std::printf("  %-68s worst %6.2f at %s  %s", key.c_str(), tally.worst, tally.where.c_str(),
-                all ? "kept" : "MISSED");
+    std::printf("  %-68s worst %6.2f at %s  %s", key.c_str(), tally.worst, tally.where.c_str(), all ? "kept" : "MISSED");
     if (!all) std::printf(" in %d of %d", tally.rows - tally.kept, tally.rows);
     std::printf("\n");
   }
@@ -208,10 +197,9 @@ void Report::finish() {
 
 void Report::write_json() const {
   const Sizes s = sizes();
-  std::fprintf(json_, "{\n\"context\": {\"date\": \"%s\", \"processor\": \"%s\", \"compiler\": \"clang %s\",\n",
-               when_.c_str(), processor_.c_str(), __clang_version__);
-  std::fprintf(json_,
-               "  \"cache_bytes\": [%zu, %zu, %zu], \"set_bytes\": {\"L1\": %zu, \"LLC\": %zu, \"memory\": %zu}},\n",
+  std::fprintf(json_, "{\n\"context\": {\"date\": \"%s\", \"processor\": \"%s\", \"compiler\": \"clang %s\",\n", when_.c_str(),
+               processor_.c_str(), __clang_version__);
+  std::fprintf(json_, "  \"cache_bytes\": [%zu, %zu, %zu], \"set_bytes\": {\"L1\": %zu, \"LLC\": %zu, \"memory\": %zu}},\n",
                s.l1, s.l2, s.llc, s.set[int(Set::l1)], s.set[int(Set::llc)], s.set[int(Set::memory)]);
   std::fprintf(json_, "\"bandwidth\": [");
   const char* separator = "\n";

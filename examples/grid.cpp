@@ -124,8 +124,8 @@ int size_of(const Tokens& tokens, const std::optional<double>& value, const char
   return static_cast<int>(*value);
 }
 
-double edge_of(const Tokens& tokens, const std::optional<double>& corner, const std::optional<double>& center,
-               double cell, const std::string& axis) {
+double edge_of(const Tokens& tokens, const std::optional<double>& corner, const std::optional<double>& center, double cell,
+               const std::string& axis) {
   if (corner.has_value() == center.has_value())
     tokens.fail_header("the header must give one of " + axis + "llcorner and " + axis + "llcenter");
   return corner ? *corner : *center - cell / 2;
@@ -148,8 +148,7 @@ Grid read_grid(const std::string& path) {
   grid.south = edge_of(tokens, header.south, header.south_center, grid.cell, "y");
   const double west = edge_of(tokens, header.west, header.west_center, grid.cell, "x");
   const double first = grid.south + grid.cell / 2, last = first + (grid.rows - 1) * grid.cell;  // rows' centers
-  grid.geographic =
-      grid.cell <= 1 && first > -90 && last < 90 && west >= -360 && west + grid.columns * grid.cell <= 720;
+  grid.geographic = grid.cell <= 1 && first > -90 && last < 90 && west >= -360 && west + grid.columns * grid.cell <= 720;
 
   const std::int64_t cells = std::int64_t{grid.columns} * grid.rows;
   const std::string size = std::to_string(grid.columns) + " x " + std::to_string(grid.rows);

@@ -25,9 +25,7 @@ Colour at(std::span<const Colour> scale, float t) {  // t from 0 to 1
   return mix(scale[stop], scale[stop + 1], place - float(stop));
 }
 
-float slope_degrees(const Surface& s) {
-  return std::atan(std::hypot(s.east, s.north)) * 180 / std::numbers::pi_v<float>;
-}
+float slope_degrees(const Surface& s) { return std::atan(std::hypot(s.east, s.north)) * 180 / std::numbers::pi_v<float>; }
 
 // Lambert's cosine against that of level ground: 1 on the level, up to 1.41 towards the light, 0 turned away from it.
 // The light stands 45 degrees high in the north-west, the cartographers' habit; relief is doubled to show in plains
@@ -63,8 +61,7 @@ class Field {
         const Surface s = cell(column + i, row + j);
         if (std::isnan(s.east)) continue;
         const float weight = (i ? u : 1 - u) * (j ? v : 1 - v);
-        sum = {sum.east + weight * s.east, sum.north + weight * s.north,
-               sum.mean_curvature + weight * s.mean_curvature};
+        sum = {sum.east + weight * s.east, sum.north + weight * s.north, sum.mean_curvature + weight * s.mean_curvature};
         weights += weight;
       }
     return {sum.east / weights, sum.north / weights, sum.mean_curvature / weights};
@@ -139,8 +136,7 @@ void draw_legend(Picture& picture, const Box& bar, const Map& map, int point) {
   for (int i = 0; i <= map.ticks; ++i) {
     const int x = bar.x + (bar.width - point) * i / map.ticks;
     picture.fill(x, below, point, 2 * point, kInk);
-    write_centered(picture, x + point / 2, below + 4 * point, number(map.low + (map.high - map.low) * i / map.ticks),
-                   point);
+    write_centered(picture, x + point / 2, below + 4 * point, number(map.low + (map.high - map.low) * i / map.ticks), point);
   }
   const int names = below + (4 + Picture::kLine + 3) * point;
   picture.write(bar.x, names, map.low_name, point, kInk);
@@ -176,16 +172,13 @@ Picture draw_maps(const Grid& grid, const std::vector<Surface>& surfaces) {
   const auto slope = [](const Surface& s) { return slope_degrees(s); };
   const auto curvature = [](const Surface& s) { return 1000 * s.mean_curvature; };
   const double steepest = 5 * std::max(1.0, std::ceil(usual_maximum(surfaces, slope) / 5.0));
-  const double sharp =
-      std::max(1e-3f, usual_maximum(surfaces, [&](const Surface& s) { return std::abs(curvature(s)); }));
+  const double sharp = std::max(1e-3f, usual_maximum(surfaces, [&](const Surface& s) { return std::abs(curvature(s)); }));
   const double sharpest = decade(sharp) * std::ceil(sharp / decade(sharp));
   const Map slope_map{"slope in degrees", kSlopeScale, 0, steepest, 5, "level", "steep"};
   const Map curvature_map{"mean curvature per km", kCurvatureScale, -sharpest, sharpest, 4, "ridge", "hollow"};
 
   const int bar = 180 * point, bar_top = title + height + 8 * point;
-  const auto panel_box = [&](int i) {
-    return Box{gap + i * (panel + gap) + (panel - width) / 2, title, width, height};
-  };
+  const auto panel_box = [&](int i) { return Box{gap + i * (panel + gap) + (panel - width) / 2, title, width, height}; };
   const auto finish = [&](const Box& box, const Map& map) {
     const int middle = box.x + box.width / 2;
     write_centered(picture, middle, (title - 7 * point) / 2, map.title, point);

@@ -35,9 +35,7 @@ constexpr Glyph kGlyphs[] = {
     {'z', {0x44, 0x64, 0x54, 0x4c, 0x44}},
 };
 
-std::uint8_t byte(float channel) {
-  return static_cast<std::uint8_t>(std::lround(255 * std::clamp(channel, 0.0f, 1.0f)));
-}
+std::uint8_t byte(float channel) { return static_cast<std::uint8_t>(std::lround(255 * std::clamp(channel, 0.0f, 1.0f))); }
 
 }  // namespace
 

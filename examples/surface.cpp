@@ -102,8 +102,8 @@ bool set_up(const float* window, std::size_t stride, float* matrix, float* right
 }  // namespace
 
 NormalEquations normal_equations(const Grid& grid) {
-  NormalEquations equations{std::vector<float>(grid.cells() * kTerms * kTerms),
-                            std::vector<float>(grid.cells() * kTerms), std::vector<bool>(grid.cells())};
+  NormalEquations equations{std::vector<float>(grid.cells() * kTerms * kTerms), std::vector<float>(grid.cells() * kTerms),
+                            std::vector<bool>(grid.cells())};
   const Padded padded(grid);
   std::size_t cell = 0;
   for (int row = 0; row < grid.rows; ++row)
@@ -120,8 +120,7 @@ NormalEquations normal_equations(const Grid& grid) {
   return equations;
 }
 
-std::vector<Surface> surfaces(const Grid& grid, const NormalEquations& equations,
-                              const std::vector<float>& coefficients) {
+std::vector<Surface> surfaces(const Grid& grid, const NormalEquations& equations, const std::vector<float>& coefficients) {
   constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
   std::vector<Surface> result(grid.cells(), Surface{kNaN, kNaN, kNaN});
   std::size_t cell = 0;

@@ -34,7 +34,6 @@ struct Surface {         // of one cell; NaN where nothing was fitted
 };
 
 /// Metric properties of the fitted quadrics at the cells' centers; `coefficients` solve the normal equations.
-std::vector<Surface> surfaces(const Grid& grid, const NormalEquations& equations,
-                              const std::vector<float>& coefficients);
+std::vector<Surface> surfaces(const Grid& grid, const NormalEquations& equations, const std::vector<float>& coefficients);
 
 }  // namespace terrain

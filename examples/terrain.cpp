@@ -112,16 +112,14 @@ class Zelm {
         solutions_(equations.right_sides.size()) {}
 
   void decompose() {
-    require_ok("zelmLUDecomp_ma_32f",
-               zelmLUDecomp_ma_32f(equations_.matrices.data(), kMatrix, kRow, kElement, order_.data(), factors_.data(),
-                                   kMatrix, kRow, kElement, kTerms, count_));
+    require_ok("zelmLUDecomp_ma_32f", zelmLUDecomp_ma_32f(equations_.matrices.data(), kMatrix, kRow, kElement, order_.data(),
+                                                          factors_.data(), kMatrix, kRow, kElement, kTerms, count_));
   }
 
   void solve() {
-    require_ok(
-        "zelmLUBackSubst_mava_32f",
-        zelmLUBackSubst_mava_32f(factors_.data(), kMatrix, kRow, kElement, order_.data(), equations_.right_sides.data(),
-                                 kRow, kElement, solutions_.data(), kRow, kElement, kTerms, count_));
+    require_ok("zelmLUBackSubst_mava_32f",
+               zelmLUBackSubst_mava_32f(factors_.data(), kMatrix, kRow, kElement, order_.data(), equations_.right_sides.data(),
+                                        kRow, kElement, solutions_.data(), kRow, kElement, kTerms, count_));
   }
 
   const std::vector<float>& solutions() const { return solutions_; }
@@ -146,16 +144,14 @@ class Zelm {
         for (int j = 0; j < kTerms; ++j) {
           residual += double(matrix[row * kTerms + j]) * x[j];
           const double factor = std::abs(double(factors[row * kTerms + j]));
-          if (j < i)
-            size += factor * upper[j];
-          else
-            upper[i] += factor * std::abs(double(x[j]));
+          if (j < i) size += factor * upper[j];
+          else upper[i] += factor * std::abs(double(x[j]));
         }
         const double share = std::abs(residual) / (kBound * (size + upper[i]) + kUnderflow);
         if (!(share <= 1)) {
           char text[128];
-          std::snprintf(text, sizeof text, "cell %zu, equation %d: the residual %g is %g times its bound", cell, row,
-                        residual, share);
+          std::snprintf(text, sizeof text, "cell %zu, equation %d: the residual %g is %g times its bound", cell, row, residual,
+                        share);
           throw std::runtime_error(text);
         }
         largest = std::max(largest, share);
@@ -219,8 +215,7 @@ Times time_with(int threads, Zelm& zelm, Rival& rival, int repeat, const Progres
     progress.show("Timing with " + std::to_string(threads) + (threads == 1 ? " thread: " : " threads: ") +
                   std::to_string(round) + " of " + std::to_string(repeat));
     const double round_times[] = {milliseconds([&] { zelm.decompose(); }), milliseconds([&] { zelm.solve(); }),
-                                  milliseconds([&] { rival.decompose(threads); }),
-                                  milliseconds([&] { rival.solve(threads); })};
+                                  milliseconds([&] { rival.decompose(threads); }), milliseconds([&] { rival.solve(threads); })};
     for (int i = 0; i < 4 && round > 0; ++i) samples[i].push_back(round_times[i]);
   }
   return {threads, median(samples[0]), median(samples[1]), median(samples[2]), median(samples[3])};
@@ -259,8 +254,7 @@ void run(const Options& options) {
   const auto fitted = std::count(equations.fitted.begin(), equations.fitted.end(), true);
   progress.show("");
   std::printf("%s: %d x %d cells of %.1f m x %.1f m, %td of them with data enough to fit\n",
-              std::filesystem::path(options.grid).filename().c_str(), grid.columns, grid.rows, cell.east, cell.north,
-              fitted);
+              std::filesystem::path(options.grid).filename().c_str(), grid.columns, grid.rows, cell.east, cell.north, fitted);
   std::printf("%zu systems of %d normal equations, set up in %.1f ms by one thread\n", grid.cells(), kTerms, set_up);
   std::fflush(stdout);
 
@@ -285,8 +279,7 @@ void run(const Options& options) {
   const Picture picture = draw_maps(grid, surfaces(grid, equations, zelm.solutions()));
   picture.save_png(options.picture);
   progress.show("");
-  std::printf("Slope and mean curvature: %s, %d x %d pixels\n", options.picture.c_str(), picture.width(),
-              picture.height());
+  std::printf("Slope and mean curvature: %s, %d x %d pixels\n", options.picture.c_str(), picture.width(), picture.height());
 }
 
 }  // namespace
@@ -295,10 +288,8 @@ void run(const Options& options) {
 int main(int argc, char** argv) {
   try {
     const terrain::Options options = terrain::parse(argc, argv);
-    if (options.help)
-      std::fputs(terrain::kUsage, stdout);
-    else
-      terrain::run(options);
+    if (options.help) std::fputs(terrain::kUsage, stdout);
+    else terrain::run(options);
     if (std::fflush(stdout) != 0) throw std::runtime_error("cannot write to standard output");
   } catch (const std::bad_alloc&) {
     std::fputs("terrain: not enough memory for a grid of this size\n", stderr);

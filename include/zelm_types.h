@@ -8,18 +8,18 @@
 typedef int32_t ZelStatus;
 
 enum {
-  zelStsOk = 0,                    /**< success */
-  zelStsFailure = -2,              /**< an eigenvector computation failed */
-  zelStsBadSize = -6,              /**< a width, height, length or order below 1 */
-  zelStsNullPointer = -8,          /**< a required pointer is null */
-  zelStsDivideByZero = -10,        /**< division by zero */
-  zelStsNotPositiveDefinite = -179,/**< a Cholesky pivot is not positive */
-  zelStsBadStride = -182,          /**< a stride below 1 or not a multiple of the element size */
-  zelStsSingular = -195,           /**< singular matrix */
-  zelStsBadByteShift = -202,       /**< a byte shift below 0 or not a multiple of the element size */
-  zelStsBadCount = -203,           /**< an object count below 1 */
-  zelStsSizeMismatch = -204,       /**< sizes of the operands do not agree */
-  zelStsNoConvergence = -205       /**< an iteration did not converge */
+  zelStsOk = 0,                     /**< success */
+  zelStsFailure = -2,               /**< an eigenvector computation failed */
+  zelStsBadSize = -6,               /**< a width, height, length or order below 1 */
+  zelStsNullPointer = -8,           /**< a required pointer is null */
+  zelStsDivideByZero = -10,         /**< division by zero */
+  zelStsNotPositiveDefinite = -179, /**< a Cholesky pivot is not positive */
+  zelStsBadStride = -182,           /**< a stride below 1 or not a multiple of the element size */
+  zelStsSingular = -195,            /**< singular matrix */
+  zelStsBadByteShift = -202,        /**< a byte shift below 0 or not a multiple of the element size */
+  zelStsBadCount = -203,            /**< an object count below 1 */
+  zelStsSizeMismatch = -204,        /**< sizes of the operands do not agree */
+  zelStsNoConvergence = -205        /**< an iteration did not converge */
 };
 
 /** What zelmGetLibVersion returns. */
@@ -28,7 +28,7 @@ typedef struct ZelLibVersion {
   int32_t versionMinor;
   int32_t versionPatch;
   int32_t revision;
-  char targetTag[4];        /**< instruction set that the library was built for: "p8" is SSE4.1 and SSE4.2 */
+  char targetTag[4]; /**< instruction set that the library was built for: "p8" is SSE4.1 and SSE4.2 */
   const char* libraryName;
   const char* versionText;
   const char* buildDate;

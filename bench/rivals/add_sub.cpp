@@ -47,10 +47,8 @@ void plain_transposed(const T* __restrict a, const T* __restrict b, T* __restric
 
 template <bool Transposed>
 decltype(auto) taken(const auto& m) {
-  if constexpr (Transposed)
-    return m.transpose();
-  else
-    return (m);
+  if constexpr (Transposed) return m.transpose();
+  else return (m);
 }
 
 template <class Op, bool TA, bool TB>
@@ -89,8 +87,7 @@ constexpr auto eigen_pairs = []<class T, int N>(const Array* at, std::ptrdiff_t 
   using S = Shape<T, N>;
   constexpr std::ptrdiff_t size = S::SizeAtCompileTime;
   for (std::ptrdiff_t k = first * size; k < (first + count) * size; k += size)
-    Eigen::Map<S>(at[2].of<T>() + k) =
-        Op::of(Eigen::Map<const S>(at[0].of<T>() + k), Eigen::Map<const S>(at[1].of<T>() + k));
+    Eigen::Map<S>(at[2].of<T>() + k) = Op::of(Eigen::Map<const S>(at[0].of<T>() + k), Eigen::Map<const S>(at[1].of<T>() + k));
 };
 
 template <class Op, template <class, int> class Shape>
@@ -114,8 +111,7 @@ bool both() {
   return true;
 }
 
-const bool all = both<Plus>() && both<Minus>() &&
-                 enroll<3, 4, 5, 6>("Add_tama", "Eigen", eigen_matrices<Plus, true, false>) &&
+const bool all = both<Plus>() && both<Minus>() && enroll<3, 4, 5, 6>("Add_tama", "Eigen", eigen_matrices<Plus, true, false>) &&
                  enroll<3, 4, 5, 6>("Add_tama", "plain", plain_matrices<Plus, true, false>) &&
                  enroll<3, 4, 5, 6>("Sub_mata", "Eigen", eigen_matrices<Minus, false, true>) &&
                  enroll<3, 4, 5, 6>("Sub_mata", "plain", plain_matrices<Minus, false, true>);

@@ -81,8 +81,7 @@ constexpr auto eigen_solve_each = []<class T, int N>(const Array* at, std::ptrdi
 };
 
 template <int N, class T>
-void plain_solve_one(const T* __restrict a, const int* __restrict index, const T* __restrict b,
-                     T* __restrict solution) {
+void plain_solve_one(const T* __restrict a, const int* __restrict index, const T* __restrict b, T* __restrict solution) {
   T x[N];
   for (int i = 0; i < N; ++i) {
     x[i] = b[index[i]];
@@ -97,8 +96,7 @@ void plain_solve_one(const T* __restrict a, const int* __restrict index, const T
 
 constexpr auto plain_solve_each = []<class T, int N>(const Array* at, std::ptrdiff_t first, std::ptrdiff_t count) {
   for (std::ptrdiff_t k = first; k < first + count; ++k)
-    plain_solve_one<N>(at[4].of<T>() + k * N * N, at[1].of<int>() + k * N, at[2].of<T>() + k * N,
-                       at[3].of<T>() + k * N);
+    plain_solve_one<N>(at[4].of<T>() + k * N * N, at[1].of<int>() + k * N, at[2].of<T>() + k * N, at[3].of<T>() + k * N);
 };
 
 constexpr auto eigen_solve_vectors = []<class T, int N>(const Array* at, std::ptrdiff_t first, std::ptrdiff_t count) {
@@ -121,8 +119,8 @@ constexpr auto eigen_solve_matrix = []<class T, int N>(const Array* at, std::ptr
 
 /// One matrix: its elements and the reciprocals of its pivots stay in registers.
 template <int N, class T>
-void plain_solve_many(const T* __restrict lu, const int* __restrict index, const T* __restrict b,
-                      T* __restrict solution, std::ptrdiff_t count) {
+void plain_solve_many(const T* __restrict lu, const int* __restrict index, const T* __restrict b, T* __restrict solution,
+                      std::ptrdiff_t count) {
   T a[N][N], inverse[N];
   int p[N];
   for (int i = 0; i < N; ++i) {

@@ -63,9 +63,15 @@ class Builder {
   Function f;
 
  private:
-  bool any_array() const { return std::any_of(tags.begin(), tags.end(), [](Tag t) { return t.array; }); }
-  bool any_matrix() const { return std::any_of(tags.begin(), tags.end(), [](Tag t) { return t.letter == 'm' || t.letter == 't'; }); }
-  bool any_vector() const { return std::any_of(tags.begin(), tags.end(), [](Tag t) { return t.letter == 'v'; }); }
+  bool any_array() const {
+    return std::any_of(tags.begin(), tags.end(), [](Tag t) { return t.array; });
+  }
+  bool any_matrix() const {
+    return std::any_of(tags.begin(), tags.end(), [](Tag t) { return t.letter == 'm' || t.letter == 't'; });
+  }
+  bool any_vector() const {
+    return std::any_of(tags.begin(), tags.end(), [](Tag t) { return t.letter == 'v'; });
+  }
   bool has(string_view argument) const { return contains(f.row->arguments, argument); }
 
   void add_arguments() {
@@ -74,7 +80,8 @@ class Builder {
       const string_view name = word.substr(0, word.find(':'));
       const string_view columns = word.size() > name.size() ? word.substr(name.size() + 1) : string_view{};
       if (f.fixed) add_plain(name);
-      else if (name == "src" || name == "src1" || name == "src2" || name == "src3") add_operand(name, object_tag(next_source++, false), true, columns);
+      else if (name == "src" || name == "src1" || name == "src2" || name == "src3")
+        add_operand(name, object_tag(next_source++, false), true, columns);
       else if (starts(name, "dst")) add_operand(name, {any_vector() ? 'v' : 'm', any_array()}, false, columns);
       else if (name == "val" && object_tag(0, true).array) add_operand(name, object_tag(0, true), true, {});
       else if (name == "height" && !any_matrix()) continue;
@@ -163,9 +170,21 @@ class Builder {
 
   /// The size arguments that the stored object has, as far as the list of arguments names them.
   void set_shape(Operand& o, string_view name, string_view columns) {
-    if (f.row->operation == "AffineTransform3DH") { o.columns = o.matrix ? "4" : "3"; o.rows = o.matrix ? "4" : "1"; return; }
-    if (f.row->operation == "CrossProduct") { o.columns = "3"; o.rows = "1"; return; }
-    if (has("widthHeight")) { o.columns = "widthHeight"; o.rows = o.matrix ? "widthHeight" : "1"; return; }
+    if (f.row->operation == "AffineTransform3DH") {
+      o.columns = o.matrix ? "4" : "3";
+      o.rows = o.matrix ? "4" : "1";
+      return;
+    }
+    if (f.row->operation == "CrossProduct") {
+      o.columns = "3";
+      o.rows = "1";
+      return;
+    }
+    if (has("widthHeight")) {
+      o.columns = "widthHeight";
+      o.rows = o.matrix ? "widthHeight" : "1";
+      return;
+    }
     if (columns == "product") {
       o.columns = tags[1].letter == 'm' ? "width2" : "height2";
       o.rows = tags[0].letter == 'm' ? "height1" : "width1";
@@ -174,12 +193,19 @@ class Builder {
       o.rows = columns == "width1" ? "height1" : columns == "width2" ? "height2" : "width";
     } else if (has("src2Len")) {
       const bool turned = tags[0].letter == 't';
-      if (name == "src1") { o.columns = "width"; o.rows = "height"; }
-      else { o.columns = name == "src2" ? "src2Len" : name == "src3" ? "src3Len" : turned ? "width" : "height"; o.rows = "1"; }
+      if (name == "src1") {
+        o.columns = "width";
+        o.rows = "height";
+      } else {
+        o.columns = name == "src2" ? "src2Len" : name == "src3" ? "src3Len" : turned ? "width" : "height";
+        o.rows = "1";
+      }
     } else if (starts(f.row->operation, "QRBack") && !o.matrix) {
-      o.columns = name == "dst" ? "width" : "height"; o.rows = "1";
+      o.columns = name == "dst" ? "width" : "height";
+      o.rows = "1";
     } else if (!o.matrix) {
-      o.columns = "width"; o.rows = "1";
+      o.columns = "width";
+      o.rows = "1";
     } else {
       o.columns = o.transposed ? "height" : "width";
       o.rows = o.transposed ? "width" : "height";

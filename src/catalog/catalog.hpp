@@ -13,9 +13,9 @@ enum class Kind { pointer, count, size, stride, shift, value };
 struct Argument {
   std::string type, name;  // C declaration: `type name`
   Kind kind;
-  int level = 0;         // of a stride: 0 from object to object, 1 from row to row, 2 from element to element
-  bool source = false;   // belongs to an operand that is read
-  int operand = -1;      // index into Function::operands; -1 for plain arguments
+  int level = 0;                // of a stride: 0 from object to object, 1 from row to row, 2 from element to element
+  bool source = false;          // belongs to an operand that is read
+  int operand = -1;             // index into Function::operands; -1 for plain arguments
   std::string per_object = "";  // of a plain array: entries for each object, as a C expression; "" where it is not an array
 };
 
@@ -23,11 +23,11 @@ enum class Store { strided, list, table };  // one pointer and strides, a pointe
 
 /// An object argument: its group of arguments, and how its memory is to be read.
 struct Operand {
-  std::string stem;     // Src1, Dst: the part of the names behind p or pp
+  std::string stem;  // Src1, Dst: the part of the names behind p or pp
   Store store = Store::strided;
   bool matrix = false, transposed = false, array = false, source = true;
-  bool constants = false;  // array of constants, one per object
-  std::string rows, columns;  // size arguments of the stored object, "" where the formula knows them
+  bool constants = false;        // array of constants, one per object
+  std::string rows, columns;     // size arguments of the stored object, "" where the formula knows them
   int first = 0, arguments = 0;  // place in Function::arguments
 };
 
@@ -40,19 +40,19 @@ struct Kernel {
 
 struct Function {
   const Row* row;
-  std::string name;    // behind `zelm`: Add_mam_32f_L
-  std::string form;    // mam; empty where the name has none
-  std::string element; // float, double, or empty
-  std::string layout;  // "", "L", "P", "SS" ...
+  std::string name;     // behind `zelm`: Add_mam_32f_L
+  std::string form;     // mam; empty where the name has none
+  std::string element;  // float, double, or empty
+  std::string layout;   // "", "L", "P", "SS" ...
   std::vector<Argument> arguments;
   std::vector<Operand> operands;
-  int count_place = -1;       // of a form without count: where its formula takes the number of objects, which is 1
-  std::string order;          // of the checks, see kDefaultOrder
-  bool fixed = false;         // geometry on plain pointers: no checks, no kernels
-  std::string cost;           // C expression over the argument names, wrapping in unsigned; empty: always serial
-  int limit[2] = {0, 0};      // contiguous, strided
-  std::string scratch;        // bytes for each thread, C expression in std::size_t
-  std::string mismatch;       // C condition under which the sizes agree
+  int count_place = -1;   // of a form without count: where its formula takes the number of objects, which is 1
+  std::string order;      // of the checks, see kDefaultOrder
+  bool fixed = false;     // geometry on plain pointers: no checks, no kernels
+  std::string cost;       // C expression over the argument names, wrapping in unsigned; empty: always serial
+  int limit[2] = {0, 0};  // contiguous, strided
+  std::string scratch;    // bytes for each thread, C expression in std::size_t
+  std::string mismatch;   // C condition under which the sizes agree
   std::vector<Kernel> kernels;
 
   bool built() const { return !row->formula.empty(); }
@@ -93,10 +93,10 @@ constexpr int count_array_forms(std::string_view forms) {
 constexpr int count_exports(const Row& row) {
   const int forms = count_words(row.forms), arrays = count_array_forms(row.forms);
   if (row.operation == "GetLibVersion") return 1;
-  if (row.room == "geometry") return forms;                    // 32f, one layout
-  if (row.forms.empty()) return 2;                             // two types
-  if (row.operation == "Copy") return forms * 2 * 9;           // two types, nine pairs of layouts
-  return 2 * (arrays * 3 + (forms - arrays) * 2);              // two types; three layouts, or two for single objects
+  if (row.room == "geometry") return forms;           // 32f, one layout
+  if (row.forms.empty()) return 2;                    // two types
+  if (row.operation == "Copy") return forms * 2 * 9;  // two types, nine pairs of layouts
+  return 2 * (arrays * 3 + (forms - arrays) * 2);     // two types; three layouts, or two for single objects
 }
 
 constexpr int count_drivers(const Row& row) {

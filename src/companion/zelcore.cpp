@@ -40,8 +40,7 @@ int ownGetFeature(int mask, int /*reserved*/) { return mask == kFeatureSse42 && 
 int zelGetMaxCacheSizeB(int* pSizeByte) {
   if (!pSizeByte) return kNullPointer;
   long largest = 0;
-  for (const int level :
-       {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE}) {
+  for (const int level : {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE}) {
     largest = std::max(largest, sysconf(level));
   }
   *pSizeByte = static_cast<int>(std::min(largest, static_cast<long>(std::numeric_limits<int>::max())));

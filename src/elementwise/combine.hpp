@@ -10,11 +10,15 @@ namespace zelm::elementwise {
 
 struct Plus {
   template <class V>
-  ZELM_INLINE V operator()(V a, V b) const { return a + b; }
+  ZELM_INLINE V operator()(V a, V b) const {
+    return a + b;
+  }
 };
 struct Minus {
   template <class V>
-  ZELM_INLINE V operator()(V a, V b) const { return a - b; }
+  ZELM_INLINE V operator()(V a, V b) const {
+    return a - b;
+  }
 };
 
 /// Objects without gaps are one run, along which a single operand repeats.
@@ -30,7 +34,8 @@ bool combine_tight(const A& a, const B& b, const D& d, int rows, int columns, in
     return true;
   } else {
     if (size > Pattern<T>::limit || count < Pattern<T>::L) return false;
-    if constexpr (A::array) run_repeated<Op, false>(Op{}, a.first, Pattern<T>(b.object(0), rows, columns), d.first, size * count);
+    if constexpr (A::array)
+      run_repeated<Op, false>(Op{}, a.first, Pattern<T>(b.object(0), rows, columns), d.first, size * count);
     else run_repeated<Op, true>(Op{}, b.first, Pattern<T>(a.object(0), rows, columns), d.first, size * count);
     return true;
   }

@@ -80,9 +80,9 @@ struct Pattern {
     int filled = 0;
     for (int c = 0; c < copies; ++c) {
       for (int i = 0; i < rows; ++i) {
-        if constexpr (Object::plain) std::memcpy(elements + filled, object.at(i, 0), std::size_t(columns) * sizeof(T)), filled += columns;
-        else
-          ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) elements[filled++] = load(object.at(i, j));
+        if constexpr (Object::plain)
+          std::memcpy(elements + filled, object.at(i, 0), std::size_t(columns) * sizeof(T)), filled += columns;
+        else ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) elements[filled++] = load(object.at(i, j));
       }
     }
   }
@@ -102,7 +102,8 @@ __attribute__((noinline)) void run_repeated(Op op, const T* a, const Pattern<T>&
       ZELM_UNROLL for (int q = 0; q < Q; ++q) combined(Pack<T>::load(a + e + q * L), held[q]).store(d + e + q * L);
     } else {
       ZELM_AS_IT_STANDS for (int q = 0; q < packs; ++q)
-        combined(Pack<T>::load(a + e + q * L), Pack<T>::load_aligned(pattern.elements + q * L)).store(d + e + q * L);
+          combined(Pack<T>::load(a + e + q * L), Pack<T>::load_aligned(pattern.elements + q * L))
+              .store(d + e + q * L);
     }
   }
   ZELM_AS_IT_STANDS for (int q = 0; e < n; ++e, ++q) store(d + e, combined(load(a + e), pattern.elements[q]));

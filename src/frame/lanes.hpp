@@ -98,8 +98,8 @@ ZELM_INLINE void load_row(Pack<typename Object::T> (&e)[N], const Object* object
     ZELM_UNROLL for (int l = 0; l < L; ++l) p[l] = objects[l].at(row(l), 0);
     rows_to_lanes(e, [&](int l) { return p[l]; });
   } else {
-    ZELM_UNROLL for (int j = 0; j < N; ++j)
-      e[j] = Pack<typename Object::T>::template gather<L>([&](int l) { return objects[l].at(row(l), j); });
+    ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] =
+        Pack<typename Object::T>::template gather<L>([&](int l) { return objects[l].at(row(l), j); });
   }
 }
 
@@ -159,9 +159,7 @@ struct Lanes {
     if (valid < L) return store_some(view, k, valid);
     if (view.interleaved()) {
       const auto first = view.object(k);
-      ZELM_UNROLL for (int i = 0; i < R; ++i) {
-        ZELM_UNROLL for (int j = 0; j < C; ++j) e[i][j].store(first.at(i, j));
-      }
+      ZELM_UNROLL for (int i = 0; i < R; ++i) { ZELM_UNROLL for (int j = 0; j < C; ++j) e[i][j].store(first.at(i, j)); }
       return;
     }
     if constexpr (packable<View>) {
@@ -181,7 +179,7 @@ struct Lanes {
 
  private:
   template <class View>
-  static constexpr bool packable = View::plain && View::array && R == 1 && C == 3 && std::is_same_v<T, float>;
+  static constexpr bool packable = View::plain&& View::array&& R == 1 && C == 3 && std::is_same_v<T, float>;
 
   template <class View>
   __attribute__((noinline)) void store_some(const View& view, std::ptrdiff_t k, int valid) const {

@@ -77,9 +77,8 @@ ZelStatus divide_with_scratch(int count, void* buffer, std::size_t bytes, Kernel
   const int team = std::max(ownGetNumThreads(), 1);
   char* const block = static_cast<char*>(kmpc_malloc(bytes * std::size_t(team)));
   ZelStatus status = zelStsOk;
-  run(std::clamp(ownGetNumThreads(), 1, team), count, [&](int first, int n, int t) {
-    merge(status, kernel(first, n, static_cast<void*>(block + bytes * std::size_t(t))));
-  });
+  run(std::clamp(ownGetNumThreads(), 1, team), count,
+      [&](int first, int n, int t) { merge(status, kernel(first, n, static_cast<void*>(block + bytes * std::size_t(t)))); });
   kmpc_free(block);
   return status;
 }

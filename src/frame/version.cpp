@@ -18,5 +18,4 @@ int initialized = 0;
 
 __attribute__((constructor)) void initializer() { initialized = 1; }
 __attribute__((destructor)) void destructor() {}
-
 }

@@ -100,7 +100,7 @@ struct StridedView {
     Object o = object(k);
     __asm__("" : "+r"(o.base));
     ZELM_UNROLL for (int l = 0; l < L; ++l)
-      to[l] = {array ? moved(o.base, (l < valid ? l : valid - 1) * stride0) : o.base, row_stride, element_stride};
+        to[l] = {array ? moved(o.base, (l < valid ? l : valid - 1) * stride0) : o.base, row_stride, element_stride};
   }
   /// True if all elements of all objects form one run of memory without a gap, row by row and object by object.
   ZELM_INLINE bool tight(int rows, int columns) const {
@@ -167,37 +167,59 @@ ZELM_INLINE TransposedView<View> transposed(View view) {
 // Makers, in the order of the argument groups. Without an element stride the elements are adjacent.
 
 template <class E>
-ZELM_INLINE StridedView<E, true, false> matrix(E* p, int stride1) { return {p, 0, stride1, sizeof(E)}; }
+ZELM_INLINE StridedView<E, true, false> matrix(E* p, int stride1) {
+  return {p, 0, stride1, sizeof(E)};
+}
 template <class E>
-ZELM_INLINE StridedView<E, false, false> matrix(E* p, int stride1, int stride2) { return {p, 0, stride1, stride2}; }
+ZELM_INLINE StridedView<E, false, false> matrix(E* p, int stride1, int stride2) {
+  return {p, 0, stride1, stride2};
+}
 template <class E>
-ZELM_INLINE StridedView<E, true, true> matrices(E* p, int stride0, int stride1) { return {p, stride0, stride1, sizeof(E)}; }
+ZELM_INLINE StridedView<E, true, true> matrices(E* p, int stride0, int stride1) {
+  return {p, stride0, stride1, sizeof(E)};
+}
 template <class E>
 ZELM_INLINE StridedView<E, false, true> matrices(E* p, int stride0, int stride1, int stride2) {
   return {p, stride0, stride1, stride2};
 }
 template <class E>
-ZELM_INLINE StridedView<E, true, false> vector(E* p) { return {p, 0, 0, sizeof(E)}; }
+ZELM_INLINE StridedView<E, true, false> vector(E* p) {
+  return {p, 0, 0, sizeof(E)};
+}
 template <class E>
-ZELM_INLINE StridedView<E, false, false> vector(E* p, int stride2) { return {p, 0, 0, stride2}; }
+ZELM_INLINE StridedView<E, false, false> vector(E* p, int stride2) {
+  return {p, 0, 0, stride2};
+}
 template <class E>
-ZELM_INLINE StridedView<E, true, true> vectors(E* p, int stride0) { return {p, stride0, 0, sizeof(E)}; }
+ZELM_INLINE StridedView<E, true, true> vectors(E* p, int stride0) {
+  return {p, stride0, 0, sizeof(E)};
+}
 template <class E>
-ZELM_INLINE StridedView<E, false, true> vectors(E* p, int stride0, int stride2) { return {p, stride0, 0, stride2}; }
+ZELM_INLINE StridedView<E, false, true> vectors(E* p, int stride0, int stride2) {
+  return {p, stride0, 0, stride2};
+}
 
 template <class E>
-ZELM_INLINE ListView<E, true> matrix_list(E* const* pp, int shift, int stride1) { return {pp, shift, stride1, sizeof(E)}; }
+ZELM_INLINE ListView<E, true> matrix_list(E* const* pp, int shift, int stride1) {
+  return {pp, shift, stride1, sizeof(E)};
+}
 template <class E>
 ZELM_INLINE ListView<E, false> matrix_list(E* const* pp, int shift, int stride1, int stride2) {
   return {pp, shift, stride1, stride2};
 }
 template <class E>
-ZELM_INLINE ListView<E, true> vector_list(E* const* pp, int shift) { return {pp, shift, 0, sizeof(E)}; }
+ZELM_INLINE ListView<E, true> vector_list(E* const* pp, int shift) {
+  return {pp, shift, 0, sizeof(E)};
+}
 template <class E>
-ZELM_INLINE ListView<E, false> vector_list(E* const* pp, int shift, int stride2) { return {pp, shift, 0, stride2}; }
+ZELM_INLINE ListView<E, false> vector_list(E* const* pp, int shift, int stride2) {
+  return {pp, shift, 0, stride2};
+}
 
 template <class E>
-ZELM_INLINE TableView<E, false> table(E* const* pp, Bytes shift, int columns) { return {pp, shift, 0, columns}; }
+ZELM_INLINE TableView<E, false> table(E* const* pp, Bytes shift, int columns) {
+  return {pp, shift, 0, columns};
+}
 template <class E>
 ZELM_INLINE TableView<E, true> tables(E* const* pp, Bytes shift, int stride0, int columns) {
   return {pp, shift, stride0, columns};

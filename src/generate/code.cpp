@@ -53,8 +53,8 @@ string kernel(const Function& f, const Kernel& k) {
     if (argument.operand < 0) add(argument.name);
     else if (argument.operand != last_operand) add(view(f, f.operands[std::size_t(last_operand = argument.operand)], k));
   }
-  return "ZelStatus " + k.symbol + "(" + kernel_parameters(f, k) + ") {\n  return " + string(f.row->formula) + "(" +
-         call + ");\n}\n";
+  return "ZelStatus " + k.symbol + "(" + kernel_parameters(f, k) + ") {\n  return " + string(f.row->formula) + "(" + call +
+         ");\n}\n";
 }
 
 // Entries
@@ -100,8 +100,12 @@ string checks(const Function& f) {
         out += test(bad.empty() ? bad : "count > 1 && " + bad, "zelStsBadStride");
         break;
       }
-      case 'M': if (product && !f.mismatch.empty()) out += test("!(" + f.mismatch + ")", "zelStsSizeMismatch"); break;
-      case 'W': if (!product && !f.mismatch.empty()) out += test("!(" + f.mismatch + ")", "zelStsSizeMismatch"); break;
+      case 'M':
+        if (product && !f.mismatch.empty()) out += test("!(" + f.mismatch + ")", "zelStsSizeMismatch");
+        break;
+      case 'W':
+        if (!product && !f.mismatch.empty()) out += test("!(" + f.mismatch + ")", "zelStsSizeMismatch");
+        break;
     }
   }
   return out;
@@ -134,31 +138,36 @@ string entry(const Function& f) {
 
 /// The kernel's arguments for the stretch of `n` objects from `first` on.
 string stretch_call(const Function& f, const Kernel& k) {
-  return k.symbol + "(" + joined(f.arguments, ", ", [&](const Argument& a) -> string {
-    if (!k.takes(a)) return "";
-    if (a.kind == Kind::count) return "n";
-    if (a.name == "pBuffer") return "scratch";
-    if (a.operand < 0) return a.per_object.empty() ? a.name : a.name + " + std::ptrdiff_t(first) * " + a.per_object;
-    const Operand& o = f.operands[std::size_t(a.operand)];
-    if (!o.array) return a.name;
-    const auto stride0 = [&] {
-      for (const Argument& s : f.arguments)
-        if (s.operand == a.operand && s.kind == Kind::stride && s.level == 0) return s.name;
-      return string();
-    };
-    if (o.store == Store::list) return a.kind == Kind::pointer ? a.name + " + first" : a.name;
-    if (o.store == Store::table) return a.kind == Kind::shift ? a.name + " + Bytes(first) * " + stride0() : a.name;
-    return a.kind == Kind::pointer ? "moved(" + a.name + ", Bytes(first) * " + stride0() + ")" : a.name;
-  }) + ")";
+  return k.symbol + "(" +
+         joined(f.arguments, ", ",
+                [&](const Argument& a) -> string {
+                  if (!k.takes(a)) return "";
+                  if (a.kind == Kind::count) return "n";
+                  if (a.name == "pBuffer") return "scratch";
+                  if (a.operand < 0)
+                    return a.per_object.empty() ? a.name : a.name + " + std::ptrdiff_t(first) * " + a.per_object;
+                  const Operand& o = f.operands[std::size_t(a.operand)];
+                  if (!o.array) return a.name;
+                  const auto stride0 = [&] {
+                    for (const Argument& s : f.arguments)
+                      if (s.operand == a.operand && s.kind == Kind::stride && s.level == 0) return s.name;
+                    return string();
+                  };
+                  if (o.store == Store::list) return a.kind == Kind::pointer ? a.name + " + first" : a.name;
+                  if (o.store == Store::table)
+                    return a.kind == Kind::shift ? a.name + " + Bytes(first) * " + stride0() : a.name;
+                  return a.kind == Kind::pointer ? "moved(" + a.name + ", Bytes(first) * " + stride0() + ")" : a.name;
+                }) +
+         ")";
 }
 
 string driver(const Function& f) {
   const bool scratch = !f.scratch.empty();
   string out = "ZelStatus " + f.driver() + "(" + parameters(f) + ") {\n";
   if (f.contiguous_kernel()) out += contiguity(f);
-  out += scratch                ? "  return parallel::divide_with_scratch(count, pBuffer, " + f.scratch + ", "
-         : f.merges_status()    ? "  return parallel::divide_merging(count, "
-                                : "  return parallel::divide(count, ";
+  out += scratch             ? "  return parallel::divide_with_scratch(count, pBuffer, " + f.scratch + ", "
+         : f.merges_status() ? "  return parallel::divide_merging(count, "
+                             : "  return parallel::divide(count, ";
   out += string("[=](int first, int n") + (scratch ? ", void* scratch" : "") + ") {\n";
   if (f.contiguous_kernel()) out += "    if (contiguous) return " + stretch_call(f, f.kernels[0]) + ";\n";
   return out + "    return " + stretch_call(f, f.kernels.back()) + ";\n  });\n}\n";
@@ -216,17 +225,19 @@ std::vector<Unit> built_units() {
 }
 
 string exports() {
-  return "{\n  global:\n" + joined(functions(), "", [](const Function& f) {
-    return f.built() ? "    " + f.exported() + ";\n" : string();
-  }) + "  local: *;\n};\n";
+  return "{\n  global:\n" +
+         joined(functions(), "", [](const Function& f) { return f.built() ? "    " + f.exported() + ";\n" : string(); }) +
+         "  local: *;\n};\n";
 }
 
 string stubs() {
   string out =
       "// Generated from the catalog; do not edit.\n"
-      "// Every exported function is one jump through word 0 of its slot. A slot is four words, of which nothing reads the last three.\n"
+      "// Every exported function is one jump through word 0 of its slot. A slot is four words, of which nothing reads the "
+      "last three.\n"
       "#ifdef __x86_64__\n"
-      "#define STUB(name) .globl name; .type name, @function; .p2align 4; name: jmp *name##_arraddr(%rip); .size name, . - name\n"
+      "#define STUB(name) .globl name; .type name, @function; .p2align 4; name: jmp *name##_arraddr(%rip); .size name, . - "
+      "name\n"
       "#define SLOT(name, entry) .globl name##_arraddr; .hidden name##_arraddr; .type name##_arraddr, @object; \\\n"
       "  name##_arraddr: .quad entry, 0, 0, 0; .size name##_arraddr, 32\n"
       "#else\n"
@@ -247,13 +258,15 @@ string stubs() {
   out += "\n  .section .data.rel.ro, \"aw\", @progbits\n  .p2align 5\n";
   for (const Function& f : functions())
     if (f.built()) out += "  .hidden " + f.entry() + "\nSLOT(" + f.exported() + ", " + f.entry() + ")\n";
-  return out + "\n  .section .rodata\n  .globl zelJumpIndexForMergedDLL\n  .hidden zelJumpIndexForMergedDLL\n"
-               "  .type zelJumpIndexForMergedDLL, @object\n  .p2align 2\nzelJumpIndexForMergedDLL: .long 0\n"
-               "  .size zelJumpIndexForMergedDLL, 4\n\n  .section .note.GNU-stack, \"\", @progbits\n";
+  return out +
+         "\n  .section .rodata\n  .globl zelJumpIndexForMergedDLL\n  .hidden zelJumpIndexForMergedDLL\n"
+         "  .type zelJumpIndexForMergedDLL, @object\n  .p2align 2\nzelJumpIndexForMergedDLL: .long 0\n"
+         "  .size zelJumpIndexForMergedDLL, 4\n\n  .section .note.GNU-stack, \"\", @progbits\n";
 }
 
 string unit_declarations(const Unit& unit) {
-  string out = string(kFirstLine) + "#pragma once\n#include \"frame/views.hpp\"\n#include \"zelm_types.h\"\n\nextern \"C\" {\n" +
+  string out = string(kFirstLine) +
+               "#pragma once\n#include \"frame/views.hpp\"\n#include \"zelm_types.h\"\n\nextern \"C\" {\n" +
                "using zelm::Bytes;\n";
   for (const Function* f : unit.functions) {
     out += "ZelStatus " + f->entry() + "(" + parameters(*f) + ");\n";
@@ -265,8 +278,8 @@ string unit_declarations(const Unit& unit) {
 
 string unit_code(const Unit& unit) {
   string out = string(kFirstLine) + "#include \"" + unit.name + ".hpp\"\n\n#include \"frame/checks.hpp\"\n#include \"" +
-               formula_header(*unit.functions[0]) + "\"\n\nusing namespace zelm;\nusing namespace zelm::" +
-               string(unit.functions[0]->row->room) + ";\n";
+               formula_header(*unit.functions[0]) +
+               "\"\n\nusing namespace zelm;\nusing namespace zelm::" + string(unit.functions[0]->row->room) + ";\n";
   for (const Function* f : unit.functions) {
     for (const Kernel& k : f->kernels) out += "\n" + kernel(*f, k);
     out += "\n" + entry(*f);
@@ -296,10 +309,9 @@ string test_calls(const std::vector<Unit>& units) {
       if (!takes(a)) continue;
       const string value = "a[" + std::to_string(place++) + "]";
       const bool pointer = a.kind == Kind::pointer;
-      arguments += (arguments.empty() ? "" : ", ") +
-                   (pointer ? "static_cast<" + a.type + ">(" + value + ".p)"
-                    : a.kind == Kind::value ? f.element + "(" + value + ".x)"
-                                            : value + ".i");
+      arguments += (arguments.empty() ? "" : ", ") + (pointer                 ? "static_cast<" + a.type + ">(" + value + ".p)"
+                                                      : a.kind == Kind::value ? f.element + "(" + value + ".x)"
+                                                                              : value + ".i");
     }
     table += "    {\"" + symbol + "\", [](const Value* a) -> ZelStatus { return " + symbol + "(" + arguments + "); }},\n";
   };
@@ -311,7 +323,8 @@ string test_calls(const std::vector<Unit>& units) {
       for (const Kernel& k : f->kernels) add(*f, k.symbol, [&](const Argument& a) { return k.takes(a); });
     }
   return string(kFirstLine) + "#include \"internals.hpp\"\n#include \"support/calls.hpp\"\n#include \"zelm.h\"\n\n" +
-         "namespace zelm::test {\n\nconst Call kCalls[] = {\n" + table + "};\nconst int kCallCount = int(std::size(kCalls));\n\n}\n";
+         "namespace zelm::test {\n\nconst Call kCalls[] = {\n" + table +
+         "};\nconst int kCallCount = int(std::size(kCalls));\n\n}\n";
 }
 
 }  // namespace zelm::generate

@@ -9,7 +9,8 @@ namespace {
 using namespace catalog;
 using std::string;
 
-const char* const kPreamble = R"(/* zelm.h: small-matrix and small-vector mathematics; one call processes a whole array of objects.
+const char* const kPreamble =
+    R"(/* zelm.h: small-matrix and small-vector mathematics; one call processes a whole array of objects.
  *
  * Generated from the catalog; do not edit.
  *
@@ -97,7 +98,8 @@ string docstring(const Function& f) {
   string text = filled(f);
   if (!f.row->shapes.empty()) text += "; " + string(f.row->shapes);
   text += ".";
-  if (!f.row->statuses.empty()) text += " May return " + joined(words(f.row->statuses), ", ", [](auto w) { return string(w); }) + ".";
+  if (!f.row->statuses.empty())
+    text += " May return " + joined(words(f.row->statuses), ", ", [](auto w) { return string(w); }) + ".";
   return "/**" + wrapped(text, 116).substr(1) + " */\n";
 }
 

@@ -18,11 +18,11 @@ struct Unit {
 
 std::vector<Unit> built_units();
 
-std::string header();                         // zelm.h
-std::string exports();                        // version script
-std::string stubs();                          // stubs and slots, assembly for both targets
-std::string unit_declarations(const Unit&);   // entries, drivers, kernels
-std::string unit_code(const Unit&);           // entries and kernels
+std::string header();                        // zelm.h
+std::string exports();                       // version script
+std::string stubs();                         // stubs and slots, assembly for both targets
+std::string unit_declarations(const Unit&);  // entries, drivers, kernels
+std::string unit_code(const Unit&);          // entries and kernels
 std::string unit_drivers(const Unit&);
 std::string internals(const std::vector<Unit>&);   // all declarations, for the tests
 std::string test_calls(const std::vector<Unit>&);  // every function callable by name, for the tests

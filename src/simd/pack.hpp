@@ -78,8 +78,7 @@ struct Pack<float> {
     if constexpr (n == 1) return {first};
     else if constexpr (n == 2) return {_mm_insert_ps(first, _mm_load_ss(at(1)), 0x10)};
     else if constexpr (n == 3) return {_mm_insert_ps(gather<2>(at).raw, _mm_load_ss(at(2)), 0x20)};
-    else
-      return {shuffle<0x88>(shuffle<0>(first, _mm_load_ss(at(1))), shuffle<0>(_mm_load_ss(at(2)), _mm_load_ss(at(3))))};
+    else return {shuffle<0x88>(shuffle<0>(first, _mm_load_ss(at(1))), shuffle<0>(_mm_load_ss(at(2)), _mm_load_ss(at(3))))};
   }
   template <int n, class Address>
   ZELM_INLINE void scatter(Address at) const {

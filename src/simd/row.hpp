@@ -25,15 +25,14 @@ struct Row {
   template <class Address>
   static ZELM_INLINE Row gather(Address at) {
     Row r;
-    ZELM_UNROLL for (int q = 0; q < full; ++q)
-      r.pack[q] = P::template gather<P::lanes>([&](int l) { return at(q * P::lanes + l); });
+    ZELM_UNROLL for (int q = 0; q < full; ++q) r.pack[q] =
+        P::template gather<P::lanes>([&](int l) { return at(q * P::lanes + l); });
     if constexpr (rest > 0) r.pack[full] = P::template gather<rest>([&](int l) { return at(full * P::lanes + l); });
     return r;
   }
   template <class Address>
   ZELM_INLINE void scatter(Address at) const {
-    ZELM_UNROLL for (int q = 0; q < full; ++q)
-      pack[q].template scatter<P::lanes>([&](int l) { return at(q * P::lanes + l); });
+    ZELM_UNROLL for (int q = 0; q < full; ++q) pack[q].template scatter<P::lanes>([&](int l) { return at(q * P::lanes + l); });
     if constexpr (rest > 0) pack[full].template scatter<rest>([&](int l) { return at(full * P::lanes + l); });
   }
 };
@@ -49,7 +48,9 @@ struct Block {
   static constexpr bool plain = true, turned = false;  // as an object of contiguous rows
   Row<T, C> rows[R];
   template <int>
-  ZELM_INLINE Row<T, C> row(int i) const { return rows[i]; }
+  ZELM_INLINE Row<T, C> row(int i) const {
+    return rows[i];
+  }
 };
 
 /// Transposes in tiles of lanes x lanes; rows missing in the last tile count as 0.
@@ -62,8 +63,7 @@ ZELM_INLINE Block<T, C, R> transposed(const Block<T, R, C>& s) {
       Pack<T> tile[L];
       ZELM_UNROLL for (int l = 0; l < L; ++l) tile[l] = i + l < R ? s.rows[i + l < R ? i + l : 0].pack[j / L] : Pack<T>::zero();
       transpose(tile);
-      ZELM_UNROLL for (int l = 0; l < L; ++l)
-        if (j + l < C) d.rows[j + l < C ? j + l : 0].pack[i / L] = tile[l];
+      ZELM_UNROLL for (int l = 0; l < L; ++l) if (j + l < C) d.rows[j + l < C ? j + l : 0].pack[i / L] = tile[l];
     }
   }
   return d;

@@ -104,8 +104,8 @@ __attribute__((noinline)) ZelStatus decompose_some(const A& a, int* index, const
   for (int l = 0; l < valid; ++l) {
     const auto object = d.object(k + l);
     ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) store(index + (k + l) * N + i, int(order[i][l]));
-    ZELM_AS_IT_STANDS for (int i = 0; i < int(rows[l]); ++i)
-      ZELM_AS_IT_STANDS for (int j = 0; j < N; ++j) store(object.at(int(order[i][l]), j), f.w.at(l, i, j));
+    ZELM_AS_IT_STANDS for (int i = 0; i < int(rows[l]); ++i) ZELM_AS_IT_STANDS for (int j = 0; j < N; ++j)
+        store(object.at(int(order[i][l]), j), f.w.at(l, i, j));
     if (int(rows[l]) < N) return zelStsSingular;
   }
   return zelStsOk;
@@ -197,7 +197,8 @@ void solve_each(A a, const int* index, B b, D d, int count) {
       load_row(f.e[i], matrices, [&](int l) { return load(order[l] + i); });
       x.e[0][i] = Pack<T>::template gather<L>([&](int l) { return vectors[l].at(0, load(order[l] + i)); });
     }
-    substitute<N>(x.e[0], [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v / f.e[i][i]; });
+    substitute<N>(
+        x.e[0], [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v / f.e[i][i]; });
     x.store(d, k, valid);
   });
 }
@@ -284,12 +285,15 @@ ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply appl
     });
   } else {
     // Entries are used as they stand: elsewhere than 0 to N - 1 they are read from memory.
-    for (std::ptrdiff_t k = 0; k < count; ++k) last_block([=](std::ptrdiff_t at, int) {
-      Lanes<T, 1, N> x;
-      for (int i = 0; i < N; ++i) x.e[0][i] = Pack<T>::splat(load(b.object(at).at(0, load(index + i))));
-      apply(x.e[0]);
-      x.store(d, at, 1);
-    }, k, 1);
+    for (std::ptrdiff_t k = 0; k < count; ++k)
+      last_block(
+          [=](std::ptrdiff_t at, int) {
+            Lanes<T, 1, N> x;
+            for (int i = 0; i < N; ++i) x.e[0][i] = Pack<T>::splat(load(b.object(at).at(0, load(index + i))));
+            apply(x.e[0]);
+            x.store(d, at, 1);
+          },
+          k, 1);
   }
 }
 
@@ -306,7 +310,8 @@ void solve_one_matrix(A a, const int* index, B b, D d, int count) {
     }
   }
   solve_vectors<N>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA {
-    substitute<N>(x, [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v * f.inverse[i]; });
+    substitute<N>(
+        x, [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v * f.inverse[i]; });
   });
 }
 
@@ -325,9 +330,9 @@ ZELM_INLINE ZelStatus solve(A a, const int* index, B b, D d, int order, int coun
     case 5: return solve_fixed<5>(a, index, b, d, count);
     case 6: return solve_fixed<6>(a, index, b, d, count);
   }
-  using Sum = std::conditional_t<B::array, PairedSum,
-                                 std::conditional_t<std::is_same_v<typename D::T, float> && A::plain && B::plain && D::plain,
-                                                    BlockedSum, PlainSum>>;
+  using Sum = std::conditional_t<
+      B::array, PairedSum,
+      std::conditional_t<std::is_same_v<typename D::T, float> && A::plain && B::plain && D::plain, BlockedSum, PlainSum>>;
   for (std::ptrdiff_t k = 0; k < count; ++k)
     solve_core<Sum>(a.object(k), A::array ? index + k * order : index, b.object(k), d.object(k), order);
   return zelStsOk;

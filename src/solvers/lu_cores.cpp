@@ -79,19 +79,19 @@ using zelm::Bytes;
 using zelm::solvers::lu::decompose_any;
 
 #define ZELM_LU_CORES(name, T)                                                                                              \
-  ZelStatus p8_ownzelmLUDecomp_m_##name##_S_com(const T* pSrc, int srcStride1, int* pDstIndex, T* pDst, int dstStride1,      \
+  ZelStatus p8_ownzelmLUDecomp_m_##name##_S_com(const T* pSrc, int srcStride1, int* pDstIndex, T* pDst, int dstStride1,     \
                                                 int widthHeight) {                                                          \
-    return decompose_any(zelm::matrix(pSrc, srcStride1).object(0), pDstIndex, zelm::matrix(pDst, dstStride1).object(0),      \
+    return decompose_any(zelm::matrix(pSrc, srcStride1).object(0), pDstIndex, zelm::matrix(pDst, dstStride1).object(0),     \
                          widthHeight);                                                                                      \
   }                                                                                                                         \
-  ZelStatus p8_ownzelmLUDecomp_m_##name##_S2_com(const T* pSrc, int srcStride1, int srcStride2, int* pDstIndex, T* pDst,     \
+  ZelStatus p8_ownzelmLUDecomp_m_##name##_S2_com(const T* pSrc, int srcStride1, int srcStride2, int* pDstIndex, T* pDst,    \
                                                  int dstStride1, int dstStride2, int widthHeight) {                         \
-    return decompose_any(zelm::matrix(pSrc, srcStride1, srcStride2).object(0), pDstIndex,                                    \
+    return decompose_any(zelm::matrix(pSrc, srcStride1, srcStride2).object(0), pDstIndex,                                   \
                          zelm::matrix(pDst, dstStride1, dstStride2).object(0), widthHeight);                                \
   }                                                                                                                         \
-  ZelStatus p8_ownzelmLUDecomp_m_##name##_P_com(const T* const* ppSrc, Bytes srcByteShift, int* pDstIndex, T* const* ppDst,  \
+  ZelStatus p8_ownzelmLUDecomp_m_##name##_P_com(const T* const* ppSrc, Bytes srcByteShift, int* pDstIndex, T* const* ppDst, \
                                                 Bytes dstByteShift, int widthHeight) {                                      \
-    return decompose_any(zelm::table(ppSrc, srcByteShift, widthHeight).object(0), pDstIndex,                                 \
+    return decompose_any(zelm::table(ppSrc, srcByteShift, widthHeight).object(0), pDstIndex,                                \
                          zelm::table(ppDst, dstByteShift, widthHeight).object(0), widthHeight);                             \
   }
 

@@ -27,13 +27,22 @@ template <class S, class D>
 ZELM_INLINE ZelStatus decompose_core(const S& s, int* index, const D& d, int n) {
   constexpr bool single = std::is_same_v<typename D::T, float>;
   if constexpr (requires { s.table; }) {
-    constexpr auto core = [] { if constexpr (single) return p8_ownzelmLUDecomp_m_32f_P_com; else return p8_ownzelmLUDecomp_m_64f_P_com; }();
+    constexpr auto core = [] {
+      if constexpr (single) return p8_ownzelmLUDecomp_m_32f_P_com;
+      else return p8_ownzelmLUDecomp_m_64f_P_com;
+    }();
     return core(s.table, s.shift, index, d.table, d.shift, n);
   } else if constexpr (S::plain) {
-    constexpr auto core = [] { if constexpr (single) return p8_ownzelmLUDecomp_m_32f_S_com; else return p8_ownzelmLUDecomp_m_64f_S_com; }();
+    constexpr auto core = [] {
+      if constexpr (single) return p8_ownzelmLUDecomp_m_32f_S_com;
+      else return p8_ownzelmLUDecomp_m_64f_S_com;
+    }();
     return core(s.base, int(s.row_stride), index, d.base, int(d.row_stride), n);
   } else {
-    constexpr auto core = [] { if constexpr (single) return p8_ownzelmLUDecomp_m_32f_S2_com; else return p8_ownzelmLUDecomp_m_64f_S2_com; }();
+    constexpr auto core = [] {
+      if constexpr (single) return p8_ownzelmLUDecomp_m_32f_S2_com;
+      else return p8_ownzelmLUDecomp_m_64f_S2_com;
+    }();
     return core(s.base, int(s.row_stride), int(s.element_stride), index, d.base, int(d.row_stride), int(d.element_stride), n);
   }
 }

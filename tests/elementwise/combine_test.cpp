@@ -15,10 +15,8 @@ struct Tag {
 std::vector<Tag> tags_of(std::string_view form) {
   std::vector<Tag> tags;
   for (const char c : form) {
-    if (c == 'a')
-      tags.back().array = true;
-    else
-      tags.push_back({c == 't', c == 'v', false});
+    if (c == 'a') tags.back().array = true;
+    else tags.push_back({c == 't', c == 'v', false});
   }
   return tags;
 }
@@ -55,10 +53,8 @@ struct Combination {
   }
 
   void check(const Memory& memory, int in_place = -1, const std::vector<int>& teams = {}) const {
-    if (form.minus)
-      check_with(std::minus<T>(), memory, in_place, teams);
-    else
-      check_with(std::plus<T>(), memory, in_place, teams);
+    if (form.minus) check_with(std::minus<T>(), memory, in_place, teams);
+    else check_with(std::plus<T>(), memory, in_place, teams);
   }
 
   template <class Op>  // the compiler would make a - b a + -b behind a choice, and turn the sign of a NaN

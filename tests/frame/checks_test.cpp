@@ -22,14 +22,10 @@ class Arguments {
     good = arena;
     for (std::size_t a = 0; a < values.size(); ++a) {
       const std::string& name = f.arguments[a].name;
-      if (step(a) == 'P')
-        values[a].p = pointer(name);
-      else if (step(a) == 'S')
-        values[a].i = name.ends_with("0") ? 512 : name.ends_with("1") ? 64 : 16;
-      else if (step(a) == 'V')
-        values[a].x = 1;
-      else
-        values[a].i = step(a) == 'C' ? 2 : step(a) == 'B' ? 8 : 3;
+      if (step(a) == 'P') values[a].p = pointer(name);
+      else if (step(a) == 'S') values[a].i = name.ends_with("0") ? 512 : name.ends_with("1") ? 64 : 16;
+      else if (step(a) == 'V') values[a].x = 1;
+      else values[a].i = step(a) == 'C' ? 2 : step(a) == 'B' ? 8 : 3;
     }
   }
 
@@ -53,18 +49,11 @@ class Arguments {
     const int e = f.element == "double" ? 8 : 4;
     std::vector<int> list;
     switch (step(a)) {
-      case 'P':
-        return {Value{nullptr}};
-      case 'S':
-        list = {0, -1, -e, e / 2, 3 * e + 1, 5 * e / 2, INT_MIN, INT_MIN + e, INT_MAX};
-        break;
-      case 'B':
-        list = {-1, -e, e / 2, 3 * e + 1, 5 * e / 2, INT_MIN, INT_MIN + e, INT_MAX};
-        break;
+      case 'P': return {Value{nullptr}};
+      case 'S': list = {0, -1, -e, e / 2, 3 * e + 1, 5 * e / 2, INT_MIN, INT_MIN + e, INT_MAX}; break;
+      case 'B': list = {-1, -e, e / 2, 3 * e + 1, 5 * e / 2, INT_MIN, INT_MIN + e, INT_MAX}; break;
       case 'C':
-      case 'N':
-        list = {0, -1, INT_MIN};
-        break;
+      case 'N': list = {0, -1, INT_MIN}; break;
     }
     std::vector<Value> out;
     for (const int i : list) out.push_back({.i = i});
@@ -125,8 +114,7 @@ TEST(Checks, EveryBadArgumentAloneAndInPairs) {
             values[a] = bad_a;
             values[b] = bad_b;  // b == a: alone
             ASSERT_EQ(call.call(values.data()), arguments.expected(a, b))
-                << f.name << ": " << f.arguments[a].name << " " << bad_a.i << ", " << f.arguments[b].name << " "
-                << bad_b.i;
+                << f.name << ": " << f.arguments[a].name << " " << bad_a.i << ", " << f.arguments[b].name << " " << bad_b.i;
           }
           values[b] = good_b;
         }
@@ -188,10 +176,8 @@ TEST(Checks, CasesByHand) {
     Arguments arguments(f);
     for (const auto& [name, value] : c.bad) {
       const std::size_t a = arguments.place(name);
-      if (arguments.step(a) == 'P')
-        arguments.values[a].p = nullptr;
-      else
-        arguments.values[a].i = value;
+      if (arguments.step(a) == 'P') arguments.values[a].p = nullptr;
+      else arguments.values[a].i = value;
     }
     EXPECT_EQ(find(f.exported()).call(arguments.values.data()), c.expected)
         << c.function << ": " << c.bad.front().first << ", " << c.bad.back().first;

@@ -30,9 +30,7 @@ TEST(LargeArray, IsReachedSeriallyAndByADriver) {
     single[e] = b + e;
     to[e] = destination + e;
   }
-  const auto mam = [&](auto f) {
-    return f(source(0), stride0, 24, 8, b, 24, 8, destination, stride0, 24, 8, n, n, count);
-  };
+  const auto mam = [&](auto f) { return f(source(0), stride0, 24, 8, b, 24, 8, destination, stride0, 24, 8, n, n, count); };
   const auto mam_p = [&](auto f) { return f(from, 0, stride0, single, 0, to, 0, stride0, n, n, count); };
   const std::function<ZelStatus()> roads[] = {
       [&] { return mam(zelmAdd_mam_64f); },

@@ -43,8 +43,7 @@ struct Library {
       const auto* symbols = at<ElfW(Sym)>(sections[s].sh_offset);
       const std::size_t names = sections[sections[s].sh_link].sh_offset;
       for (std::size_t i = 1; i < sections[s].sh_size / sizeof *symbols; ++i)
-        out[at<char>(names + symbols[i].st_name)] = {symbols[i].st_shndx != SHN_UNDEF, symbols[i].st_value,
-                                                     symbols[i].st_size};
+        out[at<char>(names + symbols[i].st_name)] = {symbols[i].st_shndx != SHN_UNDEF, symbols[i].st_value, symbols[i].st_size};
     }
     return out;
   }
@@ -130,8 +129,8 @@ TEST(Library, ImportsWhatAProgramMayPutInFront) {
     EXPECT_FALSE(library().all.count(name) && library().all.at(name).defined) << name;
   }
   // The loaded library asks this program's definition.
-  const auto driver = reinterpret_cast<decltype(&zelmAdd_vava_32f)>(
-      const_cast<char*>(library().loaded<char>("p8_ownOMP_zelmAdd_vava_32f")));
+  const auto driver =
+      reinterpret_cast<decltype(&zelmAdd_vava_32f)>(const_cast<char*>(library().loaded<char>("p8_ownOMP_zelmAdd_vava_32f")));
   const Threads one({1});
   const float a[2] = {1, 2}, b[2] = {3, 4};
   float d[2];
@@ -147,8 +146,8 @@ TEST(Library, IsHardenedAndItsSlotsAreReadOnly) {
   const std::size_t end = slots + built().size() * 4 * sizeof(void*);
   bool relro = false, stack = false, now = false;
   for (int i = 0; i < header->e_phnum; ++i) {
-    relro |= segments[i].p_type == PT_GNU_RELRO && slots >= segments[i].p_vaddr &&
-             end <= segments[i].p_vaddr + segments[i].p_memsz;
+    relro |=
+        segments[i].p_type == PT_GNU_RELRO && slots >= segments[i].p_vaddr && end <= segments[i].p_vaddr + segments[i].p_memsz;
     stack |= segments[i].p_type == PT_GNU_STACK && !(segments[i].p_flags & PF_X);
     if (segments[i].p_type != PT_DYNAMIC) continue;
     for (const auto* d = library().at<ElfW(Dyn)>(segments[i].p_offset); d->d_tag != DT_NULL; ++d) {
@@ -167,8 +166,7 @@ TEST(Version, TwoRecordsDifferInTheNameAlone) {
     ASSERT_NE(v, nullptr);
     EXPECT_EQ(v, zelmGetLibVersion());
     EXPECT_EQ(imports.feature_mask, 128);
-    EXPECT_EQ(std::vector({v->versionMajor, v->versionMinor, v->versionPatch, v->revision}),
-              std::vector({7, 1, 1, 37466}));
+    EXPECT_EQ(std::vector({v->versionMajor, v->versionMinor, v->versionPatch, v->revision}), std::vector({7, 1, 1, 37466}));
     EXPECT_EQ(std::memcmp(v->targetTag, "p8\0\0", 4), 0);
     EXPECT_STREQ(v->libraryName, feature ? "zelm SSE4.1/4.2 (p8)+" : "zelm SSE4.1/4.2 (p8)");
     EXPECT_STREQ(v->versionText, "7.1.1 (r37466)");

@@ -14,7 +14,7 @@ namespace {
 struct Rule {
   std::string_view operations, forms;
   std::int64_t (*cost)(std::int64_t c, std::int64_t w, std::int64_t h);  // of square matrices: w == h
-  std::array<int, 10> limits;  // 32f, 32f _S2, _L, _LS2, _P, then those of 64f
+  std::array<int, 10> limits;                                            // 32f, 32f _S2, _L, _LS2, _P, then those of 64f
   bool square = false;
 };
 
@@ -57,24 +57,15 @@ int asked(const std::string& name, int c, int w, int h, bool contiguous) {
   std::vector<Value> values;
   for (const auto& a : f.arguments) {
     Value v;
-    if (a.name.starts_with("pp"))
-      v.p = table.data();
-    else if (a.name.ends_with("Index"))
-      v.p = index;
-    else if (a.name[0] == 'p')
-      v.p = bytes;
-    else if (a.name == "count")
-      v.i = c;
-    else if (a.name == "height")
-      v.i = h;
-    else if (a.name.starts_with("width"))
-      v.i = w;
-    else if (a.name.ends_with("Stride1"))
-      v.i = 64;
-    else if (a.name.ends_with("ByteShift"))
-      v.i = 0;
-    else
-      v.i = f.element_size() * (a.name.ends_with("Stride2") && !contiguous ? 2 : 1);
+    if (a.name.starts_with("pp")) v.p = table.data();
+    else if (a.name.ends_with("Index")) v.p = index;
+    else if (a.name[0] == 'p') v.p = bytes;
+    else if (a.name == "count") v.i = c;
+    else if (a.name == "height") v.i = h;
+    else if (a.name.starts_with("width")) v.i = w;
+    else if (a.name.ends_with("Stride1")) v.i = 64;
+    else if (a.name.ends_with("ByteShift")) v.i = 0;
+    else v.i = f.element_size() * (a.name.ends_with("Stride2") && !contiguous ? 2 : 1);
     values.push_back(v);
   }
   const Threads one({1});
@@ -90,8 +81,7 @@ TEST(Limits, EveryArrayFunctionAsksFromItsLimitOn) {
     ASSERT_NE(rule, nullptr) << f.name << ": no rule for its cost";
     for (const bool contiguous : {true, false}) {
       if (f.layout == "P" && !contiguous) continue;
-      const int column =
-          (f.element == "double" ? 5 : 0) + (f.layout == "P" ? 4 : (f.layout == "L" ? 2 : 0) + !contiguous);
+      const int column = (f.element == "double" ? 5 : 0) + (f.layout == "P" ? 4 : (f.layout == "L" ? 2 : 0) + !contiguous);
       const int limit = rule->limits[std::size_t(column)];
       struct Size {
         int c, w, h;
@@ -103,11 +93,8 @@ TEST(Limits, EveryArrayFunctionAsksFromItsLimitOn) {
         exact += rule->cost(c, size.w, h) == limit - 1;
         exact += rule->cost(c + 1, size.w, h) == limit;
         EXPECT_EQ(asked(f.name, c, size.w, h, contiguous), 0) << f.name << " " << c << " " << size.w << " " << h;
-        if (f.name == "Sub_vva_64f_P")
-          EXPECT_EQ(asked(f.name, 4000, size.w, h, contiguous), 0);
-        else
-          EXPECT_GE(asked(f.name, c + 1, size.w, h, contiguous), 1)
-              << f.name << " " << c + 1 << " " << size.w << " " << h;
+        if (f.name == "Sub_vva_64f_P") EXPECT_EQ(asked(f.name, 4000, size.w, h, contiguous), 0);
+        else EXPECT_GE(asked(f.name, c + 1, size.w, h, contiguous), 1) << f.name << " " << c + 1 << " " << size.w << " " << h;
         ++walked;
       }
     }

@@ -78,9 +78,7 @@ TEST(ParallelDivision, FewerObjectsThanThreadsOrOneThreadStaySerial) {
     const Threads set({threads});
     Log log(count);
     char buffer;
-    const auto kernel = [&](int first, int n, void* scratch = nullptr) {
-      return log.add(first, n, scratch), zelStsSingular;
-    };
+    const auto kernel = [&](int first, int n, void* scratch = nullptr) { return log.add(first, n, scratch), zelStsSingular; };
     EXPECT_EQ(parallel::divide(count, kernel), zelStsSingular);  // the kernel's status, handed through
     EXPECT_EQ(parallel::divide_merging(count, kernel), zelStsSingular);
     EXPECT_EQ(log.scratches, std::set<void*>{nullptr});
@@ -112,8 +110,7 @@ TEST(ParallelDivision, SurvivesAChangeOfTheNumberOfThreads) {
       const auto status = parallel::divide_with_scratch(count, callers, bytes, [&](int first, int n, void* scratch) {
         std::memset(scratch, first, bytes);
         log.add(first, n, scratch);
-        for (std::size_t i = 0; i < bytes; ++i)
-          EXPECT_EQ(static_cast<char*>(scratch)[i], char(first));  // nobody else's
+        for (std::size_t i = 0; i < bytes; ++i) EXPECT_EQ(static_cast<char*>(scratch)[i], char(first));  // nobody else's
         return zelStsOk;
       });
       EXPECT_EQ(status, zelStsOk);
@@ -134,8 +131,7 @@ TEST(ParallelDivision, SurvivesAChangeOfTheNumberOfThreads) {
 TEST(ParallelDivision, ScratchIsOneSliceForEachThread) {
   const Threads three({3});
   Log log(7);
-  parallel::divide_with_scratch(7, nullptr, 100,
-                                [&](int first, int n, void* s) { return log.add(first, n, s), zelStsOk; });
+  parallel::divide_with_scratch(7, nullptr, 100, [&](int first, int n, void* s) { return log.add(first, n, s), zelStsOk; });
   char* const block = static_cast<char*>(imports.block.load());
   EXPECT_EQ(imports.block_bytes, 300u);
   EXPECT_EQ(log.scratches, (std::set<void*>{block, block + 100, block + 200}));
@@ -185,10 +181,8 @@ TEST(ParallelCalls, GiveTheBitsOfOneThread) {
   };
   const auto compute = [&] {
     Result r;
-    EXPECT_EQ(zelmAdd_mama_32f(a.data(), 36, 12, 4, b.data(), 36, 12, 4, r.sum.data(), 36, 12, 4, n, n, count),
-              zelStsOk);
-    EXPECT_EQ(zelmLUDecomp_ma_32f(a.data(), 36, 12, 4, r.index.data(), r.factors.data(), 36, 12, 4, n, count),
-              zelStsOk);
+    EXPECT_EQ(zelmAdd_mama_32f(a.data(), 36, 12, 4, b.data(), 36, 12, 4, r.sum.data(), 36, 12, 4, n, n, count), zelStsOk);
+    EXPECT_EQ(zelmLUDecomp_ma_32f(a.data(), 36, 12, 4, r.index.data(), r.factors.data(), 36, 12, 4, n, count), zelStsOk);
     return r;
   };
   Threads set({1});

@@ -34,8 +34,7 @@ Matrix<T> matrix(Kind kind, int n, Random& random) {
       a.row(i) *= std::ldexp(T(1), random.below(16) - 8);
       a.col(i) *= std::ldexp(T(1), random.below(16) - 8);
     }
-  if (kind == Kind::nearly_singular && n > 1)
-    a.col(n - 1) = a.leftCols(n - 1).rowwise().mean() + a.col(n - 1) * T(0x1p-12);
+  if (kind == Kind::nearly_singular && n > 1) a.col(n - 1) = a.leftCols(n - 1).rowwise().mean() + a.col(n - 1) * T(0x1p-12);
   return a;
 }
 
@@ -75,8 +74,7 @@ long double error_of_factors(const Matrix<T>& a, const Factors& f) {
 /// with explicit inverses of U and L, c = P b, each of them and each product adds n roundings, carried on by what
 /// follows.
 template <class T>
-long double error_of_solution(const Matrix<T>& a, const Factors& f, const Vector<T>& b, const Vector<T>& x,
-                              bool inverses) {
+long double error_of_solution(const Matrix<T>& a, const Factors& f, const Vector<T>& b, const Vector<T>& x, bool inverses) {
   const int n = int(a.rows());
   const Exact exact = x.template cast<long double>(), growth = f.growth();
   Exact bound = gamma<T>(3 * n + 2) * growth * exact.cwiseAbs();

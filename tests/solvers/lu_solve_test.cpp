@@ -149,28 +149,20 @@ struct Problem {
       const System<T> s{n, part(d.operands[0], n * n, matrix), part(d.indices["pSrcIndex"], n, matrix),
                         part(d.operands[1], n, k), part(d.operands[2], n, k)};
       if (inverts(road, n, objects)) {
-        if (n == 3)
-          by_inverse_factors_of_order_3(s);
-        else
-          std::copy_n(part(reference->operands[2], n, k), n, s.x);
+        if (n == 3) by_inverse_factors_of_order_3(s);
+        else std::copy_n(part(reference->operands[2], n, k), n, s.x);
       } else if (fixed(n)) {
         substitute(s, shape.vectors && !shape.matrices);
       } else {
         const bool blocks = road.kernel->symbol == "p8_ownzelmLUBackSubst_mv_32f";
-        solve_any_order(s,
-                        shape.vectors ? Sums::pairs
-                        : blocks      ? Sums::blocks
-                                      : Sums::plain,
-                        road.scene->address(2, k));
+        solve_any_order(s, shape.vectors ? Sums::pairs : blocks ? Sums::blocks : Sums::plain, road.scene->address(2, k));
       }
     }
     return zelStsOk;
   }
 
   void check(const Memory& memory, const std::vector<int>& teams = {}, int in_place = -1) const {
-    const auto model = [this](const Road& r, Data<T>& d, int first, int objects) {
-      return solve(r, d, first, objects);
-    };
+    const auto model = [this](const Road& r, Data<T>& d, int first, int objects) { return solve(r, d, first, objects); };
     expect_model(f, sizes(), memory, data, model, in_place, teams);
   }
 

@@ -70,8 +70,7 @@ template <class T>
 ZelStatus decompose(int n, Data<T>& d, int first, int count) {
   for (int k = first; k < first + count; ++k) {
     const auto eliminate = unrolled(n) ? eliminate_unrolled<T> : eliminate_in_core<T>;
-    const ZelStatus status =
-        eliminate(&d.operands[0][k * n * n], &d.indices["pDstIndex"][k * n], &d.operands[1][k * n * n], n);
+    const ZelStatus status = eliminate(&d.operands[0][k * n * n], &d.indices["pDstIndex"][k * n], &d.operands[1][k * n * n], n);
     if (status != zelStsOk) return status;
   }
   return zelStsOk;
@@ -90,8 +89,8 @@ template <class T>
 void check(const Function& f, int n, int count, const std::vector<T>& matrices, const Memory& memory, int in_place = -1,
            const std::vector<int>& teams = {}) {
   const auto model = [n](const Road&, Data<T>& d, int first, int stretch) { return decompose(n, d, first, stretch); };
-  expect_model(f, {{{"widthHeight", n}, {"count", count}}}, memory, with_destinations(matrices, n, count), model,
-               in_place, teams);
+  expect_model(f, {{{"widthHeight", n}, {"count", count}}}, memory, with_destinations(matrices, n, count), model, in_place,
+               teams);
 }
 
 /// Mostly well-behaved; some with equal magnitudes, NaNs, infinities, columns that vanish or turn up smaller than the
@@ -143,8 +142,8 @@ TEST_P(LUDecomp, Teams) {
     Random random(2);
     for (const int n : {2, 3, 4, 7})
       for (int count = 1; count <= 13; ++count)
-        check(f, n, count, assorted<decltype(t)>(n, count, random),
-              memories()[std::size_t(random.next()) % memories().size()], -1, {1, 2, 3, 5});
+        check(f, n, count, assorted<decltype(t)>(n, count, random), memories()[std::size_t(random.next()) % memories().size()],
+              -1, {1, 2, 3, 5});
   });
 }
 
@@ -178,8 +177,7 @@ TEST_P(LUDecomp, LimitAtEveryStepOfEveryObject) {
     const int count = array ? 9 : 1;
     for (const int n : {1, 2, 3, 4, 5, 6, 7, 8})
       for (int step = 0; step < n; ++step)
-        for (const T pivot :
-             {std::nextafter(limit<T>(n), T(0)), limit<T>(n), std::nextafter(limit<T>(n), T(1)), T(0)}) {
+        for (const T pivot : {std::nextafter(limit<T>(n), T(0)), limit<T>(n), std::nextafter(limit<T>(n), T(1)), T(0)}) {
           const bool singular = pivot < limit<T>(n) || (pivot == limit<T>(n) && !unrolled(n));
           for (int place = 0; place < count && !HasFailure(); ++place) {
             std::vector<T> matrices;
@@ -201,10 +199,8 @@ TEST_P(LUDecomp, LimitAtEveryStepOfEveryObject) {
 
 template <class A>
 A argument(const Value& v) {
-  if constexpr (std::is_pointer_v<A>)
-    return static_cast<A>(v.p);
-  else
-    return v.i;
+  if constexpr (std::is_pointer_v<A>) return static_cast<A>(v.p);
+  else return v.i;
 }
 template <auto core>
 struct Unpacked;
@@ -237,8 +233,8 @@ TEST_P(LUDecomp, Cores) {
           if (!road.direct) continue;
           road.call = &kCores.at(road.kernel->symbol);
           Data<T> got = with_destinations(assorted<T>(n, 1, random), n, 1), want = got;
-          EXPECT_EQ(scene.run(road, got), eliminate_in_core(want.operands[0].data(), want.indices["pDstIndex"].data(),
-                                                            want.operands[1].data(), n))
+          EXPECT_EQ(scene.run(road, got),
+                    eliminate_in_core(want.operands[0].data(), want.indices["pDstIndex"].data(), want.operands[1].data(), n))
               << scene.describe(road);
           EXPECT_EQ(difference(got, want, false), "") << scene.describe(road);
         }

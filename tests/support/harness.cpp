@@ -126,8 +126,8 @@ const std::vector<Memory>& memories() {
   static const std::vector<Memory> all = [] {
     std::vector<Memory> list;
     const auto uniform = [&](Place p) { list.push_back({p, p, p, p}); };
-    for (const Spread s : {Spread::tight, Spread::slots, Spread::padded, Spread::row_mixed, Spread::spaced,
-                           Spread::columns, Spread::interleaved})
+    for (const Spread s : {Spread::tight, Spread::slots, Spread::padded, Spread::row_mixed, Spread::spaced, Spread::columns,
+                           Spread::interleaved})
       for (const bool at_end : {false, true}) uniform({s, 0, at_end});
     for (const int offset : {3, 4, 8}) uniform({Spread::tight, offset});
     uniform({Spread::interleaved, 1});
@@ -156,18 +156,12 @@ Scene::Placed Scene::place(const catalog::Operand& operand, const Place& where, 
   const auto strides = [&]() -> std::array<int, 3> {
     const int slot = rounded_to_16(c * E);
     switch (where.spread) {
-      case Spread::tight:
-        return {r * c * E, c * E, E};
-      case Spread::slots:
-        return {r * slot, slot, E};
-      case Spread::padded:
-        return {r * (c + 3) * E + 5 * E, (c + 3) * E, E};
-      case Spread::row_mixed:
-        return {c * E, n * c * E, E};
-      case Spread::spaced:
-        return {r * (3 * c + 1) * E + 2 * E, (3 * c + 1) * E, 3 * E};
-      case Spread::columns:
-        return {r * c * E, E, r * E};
+      case Spread::tight: return {r * c * E, c * E, E};
+      case Spread::slots: return {r * slot, slot, E};
+      case Spread::padded: return {r * (c + 3) * E + 5 * E, (c + 3) * E, E};
+      case Spread::row_mixed: return {c * E, n * c * E, E};
+      case Spread::spaced: return {r * (3 * c + 1) * E + 2 * E, (3 * c + 1) * E, 3 * E};
+      case Spread::columns: return {r * c * E, E, r * E};
       default:  // interleaved; a single column is contiguous all the same
         return {E, c * n * E, c == 1 ? E : n * E};
     }
@@ -252,22 +246,14 @@ ZelStatus Scene::run(const Road& road, Data<T>& data) {
   for (const catalog::Argument& a : f.arguments) {
     if (road.direct && !road.kernel->takes(a)) continue;
     Value v;
-    if (a.kind == Kind::pointer && a.operand >= 0)
-      v.p = pointers[a.operand];
-    else if (a.name == "pBuffer")
-      v.p = put(a, scratch = data.arrays.at(a.name));
-    else if (a.type.find("int*") != a.type.npos)
-      v.p = put(a, data.indices.at(a.name));
-    else if (a.kind == Kind::pointer)
-      v.p = put(a, data.arrays.at(a.name));
-    else if (a.kind == Kind::value)
-      v.x = data.values.at(a.name);
-    else if (a.kind == Kind::shift)
-      v.i = placed[a.operand].shift;
-    else if (a.kind == Kind::stride)
-      v.i = placed[a.operand].strides[a.level];
-    else
-      v.i = sizes.of(a.name);
+    if (a.kind == Kind::pointer && a.operand >= 0) v.p = pointers[a.operand];
+    else if (a.name == "pBuffer") v.p = put(a, scratch = data.arrays.at(a.name));
+    else if (a.type.find("int*") != a.type.npos) v.p = put(a, data.indices.at(a.name));
+    else if (a.kind == Kind::pointer) v.p = put(a, data.arrays.at(a.name));
+    else if (a.kind == Kind::value) v.x = data.values.at(a.name);
+    else if (a.kind == Kind::shift) v.i = placed[a.operand].shift;
+    else if (a.kind == Kind::stride) v.i = placed[a.operand].strides[a.level];
+    else v.i = sizes.of(a.name);
     values.push_back(v);
   }
 
@@ -314,8 +300,7 @@ void use_threads(int team) {
 namespace {
 
 template <class T>
-void compare(const std::string& name, const std::vector<T>& got, const std::vector<T>& want, bool nan_bits,
-             std::string& out) {
+void compare(const std::string& name, const std::vector<T>& got, const std::vector<T>& want, bool nan_bits, std::string& out) {
   for (std::size_t e = 0; e < want.size() && out.empty(); ++e) {
     if (std::memcmp(&got[e], &want[e], sizeof(T)) == 0) continue;
     if (!nan_bits && got[e] != got[e] && want[e] != want[e]) continue;

@@ -115,8 +115,8 @@ std::string difference(const Data<T>& got, const Data<T>& want, bool nan_bits);
 
 /// Runs all roads. model(road, data, first object, objects) does the same to the dense data and returns the status.
 template <class T, class Model>
-void expect_model(const Function& f, const Sizes& sizes, const Memory& memory, Data<T> input, Model model,
-                  int in_place = -1, const std::vector<int>& teams = {}, bool nan_bits = false) {
+void expect_model(const Function& f, const Sizes& sizes, const Memory& memory, Data<T> input, Model model, int in_place = -1,
+                  const std::vector<int>& teams = {}, bool nan_bits = false) {
   Scene scene(f, sizes, memory, in_place);
   if (in_place >= 0) input.operands.back() = input.operands[in_place];
   for (const Road& road : scene.roads(teams)) {
@@ -142,10 +142,8 @@ struct FunctionTest : testing::TestWithParam<const Function*> {
   const Function& f = *GetParam();
   template <class Body>
   void typed(Body body) const {  // body(a value of the element type)
-    if (f.element == "float")
-      body(float());
-    else
-      body(double());
+    if (f.element == "float") body(float());
+    else body(double());
   }
   static std::string name(const testing::TestParamInfo<const Function*>& info) { return info.param->name; }
 };
