@@ -289,6 +289,54 @@ ZelStatus zelmAdd_tt_64f(const double* pSrc1, int src1Stride1, int src1Stride2, 
 ZelStatus zelmAdd_tt_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift, int width, int height);
 
+/** d[k](j) = a[k](j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vac_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float val,
+    float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vac_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float val,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vac_64f(const double* pSrc, int srcStride0, int srcStride2, double val, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vac_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double val,
+    double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vaca_32f(const float* pSrc, int srcStride0, int srcStride2, const float* pVal, int valStride0,
+    float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vaca_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, const float* const* ppVal,
+    int valByteShift, float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vaca_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, const float* pVal,
+    int valStride0, float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vaca_64f(const double* pSrc, int srcStride0, int srcStride2, const double* pVal, int valStride0,
+    double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vaca_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, const double* const* ppVal,
+    int valByteShift, double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vaca_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, const double* pVal,
+    int valStride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
 /** d[k](j) = a[k](j) + b(j); vectors of width elements. */
 ZelStatus zelmAdd_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2, int src2Stride2,
     float* pDst, int dstStride0, int dstStride2, int width, int count);
@@ -343,6 +391,44 @@ ZelStatus zelmAdd_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
     int dstStride0, int width, int count);
 
+/** d(j) = a(j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vc_32f(const float* pSrc, int srcStride2, float val, float* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vc_32f_P(const float* const* ppSrc, int srcByteShift, float val, float* const* ppDst,
+    int dstByteShift, int width);
+
+/** d(j) = a(j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vc_64f(const double* pSrc, int srcStride2, double val, double* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) + val; vectors of width elements. */
+ZelStatus zelmAdd_vc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
+    int dstByteShift, int width);
+
+/** d[k](j) = a(j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vca_32f(const float* pSrc, int srcStride2, const float* pVal, int valStride0, float* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vca_32f_L(const float* pSrc, int srcStride2, const float* const* ppVal, int valByteShift,
+    float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vca_32f_P(const float* const* ppSrc, int srcByteShift, const float* pVal, int valStride0,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a(j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vca_64f(const double* pSrc, int srcStride2, const double* pVal, int valStride0, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vca_64f_L(const double* pSrc, int srcStride2, const double* const* ppVal, int valByteShift,
+    double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) + val[k]; vectors of width elements. */
+ZelStatus zelmAdd_vca_64f_P(const double* const* ppSrc, int srcByteShift, const double* pVal, int valStride0,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
 /** d(j) = a(j) + b(j); vectors of width elements. */
 ZelStatus zelmAdd_vv_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride2, float* pDst,
     int dstStride2, int width);
@@ -359,10 +445,338 @@ ZelStatus zelmAdd_vv_64f(const double* pSrc1, int src1Stride2, const double* pSr
 ZelStatus zelmAdd_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift, int width);
 
+/* ---- Copy ---- */
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_LL(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_LP(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_LS(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_PL(const float* const* ppSrc, int srcByteShift, int srcStride0, float* const* ppDst,
+    int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_PP(const float* const* ppSrc, int srcByteShift, int srcStride0, float* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_PS(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int dstStride0,
+    int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_SL(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* const* ppDst,
+    int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_SP(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_32f_SS(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_LL(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_LP(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_LS(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_PL(const double* const* ppSrc, int srcByteShift, int srcStride0, double* const* ppDst,
+    int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_PP(const double* const* ppSrc, int srcByteShift, int srcStride0, double* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_PS(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_SL(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* const* ppDst,
+    int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_SP(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j); objects of height x width. */
+ZelStatus zelmCopy_ma_64f_SS(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_LL(const float* const* ppSrc, int srcByteShift, int srcStride2, float* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_LP(const float* const* ppSrc, int srcByteShift, int srcStride2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_LS(const float* const* ppSrc, int srcByteShift, int srcStride2, float* pDst, int dstStride0,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_PL(const float* const* ppSrc, int srcByteShift, int srcStride0, float* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_PP(const float* const* ppSrc, int srcByteShift, int srcStride0, float* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_PS(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int dstStride0,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_SL(const float* pSrc, int srcStride0, int srcStride2, float* const* ppDst, int dstByteShift,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_SP(const float* pSrc, int srcStride0, int srcStride2, float* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_32f_SS(const float* pSrc, int srcStride0, int srcStride2, float* pDst, int dstStride0,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_LL(const double* const* ppSrc, int srcByteShift, int srcStride2, double* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_LP(const double* const* ppSrc, int srcByteShift, int srcStride2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_LS(const double* const* ppSrc, int srcByteShift, int srcStride2, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_PL(const double* const* ppSrc, int srcByteShift, int srcStride0, double* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_PP(const double* const* ppSrc, int srcByteShift, int srcStride0, double* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_PS(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_SL(const double* pSrc, int srcStride0, int srcStride2, double* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_SP(const double* pSrc, int srcStride0, int srcStride2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j); objects of height x width. */
+ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int dstStride0,
+    int dstStride2, int width, int count);
+
+/* ---- Extract ---- */
+
+/** pDst[(k*height + i)*width + j] = A(i, j); packed block: height x width. */
+ZelStatus zelmExtract_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDst, int width, int height);
+
+/** pDst[(k*height + i)*width + j] = A(i, j); packed block: height x width. */
+ZelStatus zelmExtract_m_32f_P(const float* const* ppSrc, int srcByteShift, float* pDst, int width, int height);
+
+/** pDst[(k*height + i)*width + j] = A(i, j); packed block: height x width. */
+ZelStatus zelmExtract_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDst, int width, int height);
+
+/** pDst[(k*height + i)*width + j] = A(i, j); packed block: height x width. */
+ZelStatus zelmExtract_m_64f_P(const double* const* ppSrc, int srcByteShift, double* pDst, int width, int height);
+
+/** pDst[(k*height + i)*width + j] = A[k](i, j); packed block: height x width. */
+ZelStatus zelmExtract_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* pDst,
+    int width, int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](i, j); packed block: height x width. */
+ZelStatus zelmExtract_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    float* pDst, int width, int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](i, j); packed block: height x width. */
+ZelStatus zelmExtract_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int width,
+    int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](i, j); packed block: height x width. */
+ZelStatus zelmExtract_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* pDst,
+    int width, int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](i, j); packed block: height x width. */
+ZelStatus zelmExtract_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    double* pDst, int width, int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](i, j); packed block: height x width. */
+ZelStatus zelmExtract_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
+    int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A(j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_t_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDst, int width, int height);
+
+/** pDst[(k*height + i)*width + j] = A(j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_t_32f_P(const float* const* ppSrc, int srcByteShift, float* pDst, int width, int height);
+
+/** pDst[(k*height + i)*width + j] = A(j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_t_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDst, int width, int height);
+
+/** pDst[(k*height + i)*width + j] = A(j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_t_64f_P(const double* const* ppSrc, int srcByteShift, double* pDst, int width, int height);
+
+/** pDst[(k*height + i)*width + j] = A[k](j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_ta_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* pDst,
+    int width, int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_ta_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    float* pDst, int width, int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_ta_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int width,
+    int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_ta_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* pDst,
+    int width, int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_ta_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    double* pDst, int width, int height, int count);
+
+/** pDst[(k*height + i)*width + j] = A[k](j, i); packed block: height x width; stored source: width x height. */
+ZelStatus zelmExtract_ta_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
+    int height, int count);
+
+/** pDst[k*width + j] = a(j); vectors of width elements. */
+ZelStatus zelmExtract_v_32f(const float* pSrc, int srcStride2, float* pDst, int width);
+
+/** pDst[k*width + j] = a(j); vectors of width elements. */
+ZelStatus zelmExtract_v_32f_P(const float* const* ppSrc, int srcByteShift, float* pDst, int width);
+
+/** pDst[k*width + j] = a(j); vectors of width elements. */
+ZelStatus zelmExtract_v_64f(const double* pSrc, int srcStride2, double* pDst, int width);
+
+/** pDst[k*width + j] = a(j); vectors of width elements. */
+ZelStatus zelmExtract_v_64f_P(const double* const* ppSrc, int srcByteShift, double* pDst, int width);
+
+/** pDst[k*width + j] = a[k](j); vectors of width elements. */
+ZelStatus zelmExtract_va_32f(const float* pSrc, int srcStride0, int srcStride2, float* pDst, int width, int count);
+
+/** pDst[k*width + j] = a[k](j); vectors of width elements. */
+ZelStatus zelmExtract_va_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float* pDst, int width,
+    int count);
+
+/** pDst[k*width + j] = a[k](j); vectors of width elements. */
+ZelStatus zelmExtract_va_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int width,
+    int count);
+
+/** pDst[k*width + j] = a[k](j); vectors of width elements. */
+ZelStatus zelmExtract_va_64f(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int width, int count);
+
+/** pDst[k*width + j] = a[k](j); vectors of width elements. */
+ZelStatus zelmExtract_va_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double* pDst, int width,
+    int count);
+
+/** pDst[k*width + j] = a[k](j); vectors of width elements. */
+ZelStatus zelmExtract_va_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
+    int count);
+
 /* ---- GetLibVersion ---- */
 
 /** the version record of the library; never null. */
 const ZelLibVersion* zelmGetLibVersion(void);
+
+/* ---- LComb ---- */
+
+/** d[k](j) = a[k](j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, float val1, const float* pSrc2,
+    int src2Stride2, float val2, float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2, float val1,
+    const float* pSrc2, int src2Stride2, float val2, float* const* ppDst, int dstByteShift, int dstStride2, int width,
+    int count);
+
+/** d[k](j) = a[k](j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, float val1,
+    const float* const* ppSrc2, int src2ByteShift, float val2, float* const* ppDst, int dstByteShift, int dstStride0,
+    int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vav_64f(const double* pSrc1, int src1Stride0, int src1Stride2, double val1, const double* pSrc2,
+    int src2Stride2, double val2, double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2, double val1,
+    const double* pSrc2, int src2Stride2, double val2, double* const* ppDst, int dstByteShift, int dstStride2,
+    int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, double val1,
+    const double* const* ppSrc2, int src2ByteShift, double val2, double* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b[k](j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vava_32f(const float* pSrc1, int src1Stride0, int src1Stride2, float val1, const float* pSrc2,
+    int src2Stride0, int src2Stride2, float val2, float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b[k](j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2, float val1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float val2, float* const* ppDst, int dstByteShift,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b[k](j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, float val1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float val2, float* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b[k](j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vava_64f(const double* pSrc1, int src1Stride0, int src1Stride2, double val1, const double* pSrc2,
+    int src2Stride0, int src2Stride2, double val2, double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b[k](j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2, double val1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double val2, double* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val1 + b[k](j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, double val1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double val2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int width, int count);
+
+/** d(j) = a(j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vv_32f(const float* pSrc1, int src1Stride2, float val1, const float* pSrc2, int src2Stride2,
+    float val2, float* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vv_32f_P(const float* const* ppSrc1, int src1ByteShift, float val1, const float* const* ppSrc2,
+    int src2ByteShift, float val2, float* const* ppDst, int dstByteShift, int width);
+
+/** d(j) = a(j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vv_64f(const double* pSrc1, int src1Stride2, double val1, const double* pSrc2, int src2Stride2,
+    double val2, double* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) * val1 + b(j) * val2; vectors of width elements. */
+ZelStatus zelmLComb_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, double val1, const double* const* ppSrc2,
+    int src2ByteShift, double val2, double* const* ppDst, int dstByteShift, int width);
 
 /* ---- LUBackSubst ---- */
 
@@ -520,7 +934,383 @@ ZelStatus zelmLUDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, in
 ZelStatus zelmLUDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int* pDstIndex,
     double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
+/* ---- LoadIdentity ---- */
+
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+ZelStatus zelmLoadIdentity_ma_32f(float* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height,
+    int count);
+
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+ZelStatus zelmLoadIdentity_ma_32f_L(float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width,
+    int height, int count);
+
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+ZelStatus zelmLoadIdentity_ma_32f_P(float* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
+    int count);
+
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+ZelStatus zelmLoadIdentity_ma_64f(double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height,
+    int count);
+
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+ZelStatus zelmLoadIdentity_ma_64f_L(double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width,
+    int height, int count);
+
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+ZelStatus zelmLoadIdentity_ma_64f_P(double* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
+    int count);
+
+/* ---- Mul ---- */
+
+/** D[k](i, j) = A[k](i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mac_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float val, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mac_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2, float val,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mac_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float val,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mac_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double val,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mac_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2, double val,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mc_32f(const float* pSrc, int srcStride1, int srcStride2, float val, float* pDst, int dstStride1,
+    int dstStride2, int width, int height);
+
+/** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mc_32f_P(const float* const* ppSrc, int srcByteShift, float val, float* const* ppDst,
+    int dstByteShift, int width, int height);
+
+/** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mc_64f(const double* pSrc, int srcStride1, int srcStride2, double val, double* pDst, int dstStride1,
+    int dstStride2, int width, int height);
+
+/** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_mc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
+    int dstByteShift, int width, int height);
+
+/** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tac_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float val, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tac_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2, float val,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tac_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float val,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tac_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double val,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tac_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2, double val,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tc_32f(const float* pSrc, int srcStride1, int srcStride2, float val, float* pDst, int dstStride1,
+    int dstStride2, int width, int height);
+
+/** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tc_32f_P(const float* const* ppSrc, int srcByteShift, float val, float* const* ppDst,
+    int dstByteShift, int width, int height);
+
+/** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tc_64f(const double* pSrc, int srcStride1, int srcStride2, double val, double* pDst, int dstStride1,
+    int dstStride2, int width, int height);
+
+/** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
+ZelStatus zelmMul_tc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
+    int dstByteShift, int width, int height);
+
+/** d[k](j) = a[k](j) * val; vectors of width elements. */
+ZelStatus zelmMul_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val; vectors of width elements. */
+ZelStatus zelmMul_vac_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float val,
+    float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val; vectors of width elements. */
+ZelStatus zelmMul_vac_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float val,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) * val; vectors of width elements. */
+ZelStatus zelmMul_vac_64f(const double* pSrc, int srcStride0, int srcStride2, double val, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val; vectors of width elements. */
+ZelStatus zelmMul_vac_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double val,
+    double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val; vectors of width elements. */
+ZelStatus zelmMul_vac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vaca_32f(const float* pSrc, int srcStride0, int srcStride2, const float* pVal, int valStride0,
+    float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vaca_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, const float* const* ppVal,
+    int valByteShift, float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vaca_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, const float* pVal,
+    int valStride0, float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vaca_64f(const double* pSrc, int srcStride0, int srcStride2, const double* pVal, int valStride0,
+    double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vaca_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, const double* const* ppVal,
+    int valByteShift, double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vaca_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, const double* pVal,
+    int valStride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d(j) = a(j) * val; vectors of width elements. */
+ZelStatus zelmMul_vc_32f(const float* pSrc, int srcStride2, float val, float* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) * val; vectors of width elements. */
+ZelStatus zelmMul_vc_32f_P(const float* const* ppSrc, int srcByteShift, float val, float* const* ppDst,
+    int dstByteShift, int width);
+
+/** d(j) = a(j) * val; vectors of width elements. */
+ZelStatus zelmMul_vc_64f(const double* pSrc, int srcStride2, double val, double* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) * val; vectors of width elements. */
+ZelStatus zelmMul_vc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
+    int dstByteShift, int width);
+
+/** d[k](j) = a(j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vca_32f(const float* pSrc, int srcStride2, const float* pVal, int valStride0, float* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vca_32f_L(const float* pSrc, int srcStride2, const float* const* ppVal, int valByteShift,
+    float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vca_32f_P(const float* const* ppSrc, int srcByteShift, const float* pVal, int valStride0,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a(j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vca_64f(const double* pSrc, int srcStride2, const double* pVal, int valStride0, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vca_64f_L(const double* pSrc, int srcStride2, const double* const* ppVal, int valByteShift,
+    double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) * val[k]; vectors of width elements. */
+ZelStatus zelmMul_vca_64f_P(const double* const* ppSrc, int srcByteShift, const double* pVal, int valStride0,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/* ---- Saxpy ---- */
+
+/** d[k](j) = a[k](j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, float val, const float* pSrc2,
+    int src2Stride2, float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2, float val,
+    const float* pSrc2, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, float val,
+    const float* const* ppSrc2, int src2ByteShift, float* const* ppDst, int dstByteShift, int dstStride0, int width,
+    int count);
+
+/** d[k](j) = a[k](j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vav_64f(const double* pSrc1, int src1Stride0, int src1Stride2, double val, const double* pSrc2,
+    int src2Stride2, double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2, double val,
+    const double* pSrc2, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, double val,
+    const double* const* ppSrc2, int src2ByteShift, double* const* ppDst, int dstByteShift, int dstStride0, int width,
+    int count);
+
+/** d[k](j) = a[k](j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vava_32f(const float* pSrc1, int src1Stride0, int src1Stride2, float val, const float* pSrc2,
+    int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2, float val,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, float val,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vava_64f(const double* pSrc1, int src1Stride0, int src1Stride2, double val, const double* pSrc2,
+    int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2, double val,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, double val,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int count);
+
+/** d(j) = a(j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vv_32f(const float* pSrc1, int src1Stride2, float val, const float* pSrc2, int src2Stride2,
+    float* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vv_32f_P(const float* const* ppSrc1, int src1ByteShift, float val, const float* const* ppSrc2,
+    int src2ByteShift, float* const* ppDst, int dstByteShift, int width);
+
+/** d(j) = a(j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vv_64f(const double* pSrc1, int src1Stride2, double val, const double* pSrc2, int src2Stride2,
+    double* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) * val + b(j); vectors of width elements. */
+ZelStatus zelmSaxpy_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, double val, const double* const* ppSrc2,
+    int src2ByteShift, double* const* ppDst, int dstByteShift, int width);
+
+/** d[k](j) = a(j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vva_32f(const float* pSrc1, int src1Stride2, float val, const float* pSrc2, int src2Stride0,
+    int src2Stride2, float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vva_32f_L(const float* pSrc1, int src1Stride2, float val, const float* const* ppSrc2,
+    int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vva_32f_P(const float* const* ppSrc1, int src1ByteShift, float val, const float* const* ppSrc2,
+    int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a(j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vva_64f(const double* pSrc1, int src1Stride2, double val, const double* pSrc2, int src2Stride0,
+    int src2Stride2, double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vva_64f_L(const double* pSrc1, int src1Stride2, double val, const double* const* ppSrc2,
+    int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) * val + b[k](j); vectors of width elements. */
+ZelStatus zelmSaxpy_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, double val, const double* const* ppSrc2,
+    int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
 /* ---- Sub ---- */
+
+/** d[k](j) = val[k] - a(j); vectors of width elements. */
+ZelStatus zelmSub_cav_32f(const float* pSrc, int srcStride2, const float* pVal, int valStride0, float* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = val[k] - a(j); vectors of width elements. */
+ZelStatus zelmSub_cav_32f_L(const float* pSrc, int srcStride2, const float* const* ppVal, int valByteShift,
+    float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = val[k] - a(j); vectors of width elements. */
+ZelStatus zelmSub_cav_32f_P(const float* const* ppSrc, int srcByteShift, const float* pVal, int valStride0,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = val[k] - a(j); vectors of width elements. */
+ZelStatus zelmSub_cav_64f(const double* pSrc, int srcStride2, const double* pVal, int valStride0, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = val[k] - a(j); vectors of width elements. */
+ZelStatus zelmSub_cav_64f_L(const double* pSrc, int srcStride2, const double* const* ppVal, int valByteShift,
+    double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = val[k] - a(j); vectors of width elements. */
+ZelStatus zelmSub_cav_64f_P(const double* const* ppSrc, int srcByteShift, const double* pVal, int valStride0,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = val[k] - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cava_32f(const float* pSrc, int srcStride0, int srcStride2, const float* pVal, int valStride0,
+    float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = val[k] - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cava_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, const float* const* ppVal,
+    int valByteShift, float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = val[k] - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cava_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, const float* pVal,
+    int valStride0, float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = val[k] - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cava_64f(const double* pSrc, int srcStride0, int srcStride2, const double* pVal, int valStride0,
+    double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = val[k] - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cava_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, const double* const* ppVal,
+    int valByteShift, double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = val[k] - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cava_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, const double* pVal,
+    int valStride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d(j) = val - a(j); vectors of width elements. */
+ZelStatus zelmSub_cv_32f(const float* pSrc, int srcStride2, float val, float* pDst, int dstStride2, int width);
+
+/** d(j) = val - a(j); vectors of width elements. */
+ZelStatus zelmSub_cv_32f_P(const float* const* ppSrc, int srcByteShift, float val, float* const* ppDst,
+    int dstByteShift, int width);
+
+/** d(j) = val - a(j); vectors of width elements. */
+ZelStatus zelmSub_cv_64f(const double* pSrc, int srcStride2, double val, double* pDst, int dstStride2, int width);
+
+/** d(j) = val - a(j); vectors of width elements. */
+ZelStatus zelmSub_cv_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
+    int dstByteShift, int width);
+
+/** d[k](j) = val - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cva_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = val - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cva_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float val,
+    float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = val - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cva_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float val,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = val - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cva_64f(const double* pSrc, int srcStride0, int srcStride2, double val, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = val - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cva_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double val,
+    double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = val - a[k](j); vectors of width elements. */
+ZelStatus zelmSub_cva_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
 
 /** D[k](i, j) = A[k](i, j) - B(i, j); D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmSub_mam_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, const float* pSrc2,
@@ -946,6 +1736,54 @@ ZelStatus zelmSub_tta_64f_P(const double* const* ppSrc1, int src1ByteShift, cons
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
     int count);
 
+/** d[k](j) = a[k](j) - val; vectors of width elements. */
+ZelStatus zelmSub_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
+    int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) - val; vectors of width elements. */
+ZelStatus zelmSub_vac_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float val,
+    float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) - val; vectors of width elements. */
+ZelStatus zelmSub_vac_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float val,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) - val; vectors of width elements. */
+ZelStatus zelmSub_vac_64f(const double* pSrc, int srcStride0, int srcStride2, double val, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) - val; vectors of width elements. */
+ZelStatus zelmSub_vac_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double val,
+    double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) - val; vectors of width elements. */
+ZelStatus zelmSub_vac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vaca_32f(const float* pSrc, int srcStride0, int srcStride2, const float* pVal, int valStride0,
+    float* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vaca_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, const float* const* ppVal,
+    int valByteShift, float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vaca_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, const float* pVal,
+    int valStride0, float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a[k](j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vaca_64f(const double* pSrc, int srcStride0, int srcStride2, const double* pVal, int valStride0,
+    double* pDst, int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vaca_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, const double* const* ppVal,
+    int valByteShift, double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a[k](j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vaca_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, const double* pVal,
+    int valStride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
 /** d[k](j) = a[k](j) - b(j); vectors of width elements. */
 ZelStatus zelmSub_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2, int src2Stride2,
     float* pDst, int dstStride0, int dstStride2, int width, int count);
@@ -1000,6 +1838,44 @@ ZelStatus zelmSub_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
     int dstStride0, int width, int count);
 
+/** d(j) = a(j) - val; vectors of width elements. */
+ZelStatus zelmSub_vc_32f(const float* pSrc, int srcStride2, float val, float* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) - val; vectors of width elements. */
+ZelStatus zelmSub_vc_32f_P(const float* const* ppSrc, int srcByteShift, float val, float* const* ppDst,
+    int dstByteShift, int width);
+
+/** d(j) = a(j) - val; vectors of width elements. */
+ZelStatus zelmSub_vc_64f(const double* pSrc, int srcStride2, double val, double* pDst, int dstStride2, int width);
+
+/** d(j) = a(j) - val; vectors of width elements. */
+ZelStatus zelmSub_vc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
+    int dstByteShift, int width);
+
+/** d[k](j) = a(j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vca_32f(const float* pSrc, int srcStride2, const float* pVal, int valStride0, float* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vca_32f_L(const float* pSrc, int srcStride2, const float* const* ppVal, int valByteShift,
+    float* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vca_32f_P(const float* const* ppSrc, int srcByteShift, const float* pVal, int valStride0,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/** d[k](j) = a(j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vca_64f(const double* pSrc, int srcStride2, const double* pVal, int valStride0, double* pDst,
+    int dstStride0, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vca_64f_L(const double* pSrc, int srcStride2, const double* const* ppVal, int valByteShift,
+    double* const* ppDst, int dstByteShift, int dstStride2, int width, int count);
+
+/** d[k](j) = a(j) - val[k]; vectors of width elements. */
+ZelStatus zelmSub_vca_64f_P(const double* const* ppSrc, int srcByteShift, const double* pVal, int valStride0,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
 /** d(j) = a(j) - b(j); vectors of width elements. */
 ZelStatus zelmSub_vv_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride2, float* pDst,
     int dstStride2, int width);
@@ -1039,6 +1915,48 @@ ZelStatus zelmSub_vva_64f_L(const double* pSrc1, int src1Stride2, const double* 
 /** d[k](j) = a(j) - b[k](j); vectors of width elements. */
 ZelStatus zelmSub_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/* ---- Transpose ---- */
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_m_32f(const float* pSrc, int srcStride1, int srcStride2, int width, int height, float* pDst,
+    int dstStride1, int dstStride2);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_m_32f_P(const float* const* ppSrc, int srcByteShift, int width, int height,
+    float* const* ppDst, int dstByteShift);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_m_64f(const double* pSrc, int srcStride1, int srcStride2, int width, int height, double* pDst,
+    int dstStride1, int dstStride2);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_m_64f_P(const double* const* ppSrc, int srcByteShift, int width, int height,
+    double* const* ppDst, int dstByteShift);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
+    int height, float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int width, int height, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
+    float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
+    int height, double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int width, int height, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
+ZelStatus zelmTranspose_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
+    double* const* ppDst, int dstByteShift, int dstStride0, int count);
 
 #ifdef __cplusplus
 }

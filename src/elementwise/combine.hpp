@@ -1,6 +1,8 @@
-// combine.hpp: dst = src1 op src2, element by element, for every form of sum and difference.
-// Each element is one operation of the element type, first operand first, on every path: only the way through memory differs.
-// dst may be a source of the same layout, strides and sizes; a source read as its transpose must lie apart from it.
+// combine.hpp: dst = op(src1, src2), element by element: sums and differences of objects, objects with constants, and linear
+// combinations. Each element is computed by the one formula, each operation rounded, on every path: only the way through
+// memory differs.
+// dst may be a source of the same layout, strides and sizes; a source read as its transpose must lie apart from it. Of a single
+// vector the result is that of the ascending loop, however its memory overlaps.
 #pragma once
 #include "elementwise/run.hpp"
 #include "frame/views.hpp"
@@ -20,48 +22,98 @@ struct Minus {
     return a - b;
   }
 };
+/// For the forms that name the constant first: their arguments have the vector first all the same.
+struct SubtractedFrom {
+  template <class V>
+  ZELM_INLINE V operator()(V a, V b) const {
+    return b - a;
+  }
+};
+struct Times {
+  template <class V>
+  ZELM_INLINE V operator()(V a, V b) const {
+    return a * b;
+  }
+};
+template <class T>
+struct ScaledPlus {
+  T val;
+  ZELM_INLINE T operator()(T a, T b) const { return a * val + b; }
+  ZELM_INLINE Pack<T> operator()(Pack<T> a, Pack<T> b) const { return a * Pack<T>::splat(val) + b; }
+};
+template <class T>
+struct WeightedSum {
+  T val1, val2;
+  ZELM_INLINE T operator()(T a, T b) const { return a * val1 + b * val2; }
+  ZELM_INLINE Pack<T> operator()(Pack<T> a, Pack<T> b) const { return a * Pack<T>::splat(val1) + b * Pack<T>::splat(val2); }
+};
 
 /// Objects without gaps are one run, along which a single operand repeats.
 template <class Op, class A, class B, class D>
-bool combine_tight(const A& a, const B& b, const D& d, int rows, int columns, int count) {
+bool combine_tight(Op op, const A& a, const B& b, const D& d, int rows, int columns, int count) {
   using T = typename D::T;
   const std::ptrdiff_t size = std::ptrdiff_t(rows) * columns;
   const auto fits = [&](const auto& v) { return !v.array || v.tight(rows, columns); };
   if constexpr (!D::plain || !D::array || (A::array && !A::plain) || (B::array && !B::plain)) return false;
   else if (!d.tight(rows, columns) || !fits(a) || !fits(b)) return false;
   else if constexpr (A::array && B::array) {
-    run(Op{}, Elements{a.first}, Elements{b.first}, d.first, size * count);
+    run(op, Elements{a.first}, Elements{b.first}, d.first, size * count);
+    return true;
+  } else if constexpr (B::constant) {
+    run(op, Elements{a.first}, Same<T>{b.value}, d.first, size * count);
     return true;
   } else {
     if (size > Pattern<T>::limit || count < Pattern<T>::L) return false;
-    if constexpr (A::array)
-      run_repeated<Op, false>(Op{}, a.first, Pattern<T>(b.object(0), rows, columns), d.first, size * count);
-    else run_repeated<Op, true>(Op{}, b.first, Pattern<T>(a.object(0), rows, columns), d.first, size * count);
+    if constexpr (A::array) run_repeated<Op, false>(op, a.first, Pattern<T>(b.object(0), rows, columns), d.first, size * count);
+    else run_repeated<Op, true>(op, b.first, Pattern<T>(a.object(0), rows, columns), d.first, size * count);
     return true;
   }
 }
 
+/// Vectors without gaps and a constant for each: N registers hold the vectors of as many objects as a register has lanes, and
+/// each takes its constants from one register by a shuffle.
+template <int N, class Op, class A, class B, class D>
+void combine_constants(Op op, const A& a, const B& b, const D& d, int count) {
+  using P = Pack<typename D::T>;
+  constexpr int L = P::lanes;
+  P held[N];
+  if constexpr (!A::array) {
+    const Pattern<typename D::T> pattern(a.object(0), 1, N);
+    ZELM_UNROLL for (int q = 0; q < N; ++q) held[q] = P::load(pattern.elements + q % pattern.packs * L);
+  }
+  std::ptrdiff_t k = 0;
+  for (; k + L <= count; k += L) {
+    const P values = b.lanes(k);
+    unroll<N>([&](auto q) {
+      if constexpr (A::array) held[q] = P::load(a.first + k * N + q * L);
+      op(held[q], spread<N, q>(values)).store(d.first + k * N + q * L);
+    });
+  }
+  const auto last = zelm::held<1, N>(a);
+  for (; k < count; ++k)
+    d.object(k).template set_row<N>(0, lanewise(op, last.object(k).template row<N>(0), b.object(k).template row<N>(0)));
+}
+
 /// Where equal elements of neighbouring objects lie side by side, each element of the objects is a run over all of them.
 template <class Op, class A, class B, class D>
-bool combine_interleaved(const A& a, const B& b, const D& d, int rows, int columns, int count) {
+bool combine_interleaved(Op op, const A& a, const B& b, const D& d, int rows, int columns, int count) {
   if (count < 2 * Pack<typename D::T>::lanes || !d.interleaved() || (A::array && !a.interleaved()) ||
       (B::array && !b.interleaved()))
     return false;
   for (int i = 0; i < rows; ++i)
-    for (int j = 0; j < columns; ++j)
-      run(Op{}, along<A::array>(a.object(0).at(i, j)), along<B::array>(b.object(0).at(i, j)), d.object(0).at(i, j), count);
+    for (int j = 0; j < columns; ++j) run(op, along(a, i, j), along(b, i, j), d.object(0).at(i, j), count);
   return true;
 }
 
-template <class Op, int R, int C, class A, class B, class D>
-void combine_fixed(const A& a, const B& b, const D& d, int count) {
+template <int R, int C, class Op, class A, class B, class D>
+void combine_fixed(Op op, const A& a, const B& b, const D& d, int count) {
   const auto first = held<R, C>(a);
   const auto second = held<R, C>(b);
   for (int k = 0; k < count; ++k) {
     const auto& x = rows_of<R, C>(first.object(k));
     const auto& y = rows_of<R, C>(second.object(k));
     const auto z = d.object(k);
-    const auto row = [&](int i) { z.template set_row<C>(i, lanewise(Op{}, x.template row<C>(i), y.template row<C>(i))); };
+    const auto row = [&](int i) { z.template set_row<C>(i, lanewise(op, x.template row<C>(i), y.template row<C>(i))); };
     // Element by element the rows gain nothing from standing one after the other, and the library would be twice as large.
     if constexpr (std::decay_t<decltype(x)>::plain && std::decay_t<decltype(y)>::plain && z.plain) {
       ZELM_UNROLL for (int i = 0; i < R; ++i) row(i);
@@ -71,44 +123,110 @@ void combine_fixed(const A& a, const B& b, const D& d, int count) {
   }
 }
 
+/// One row in ascending order, each element stored before the next is read.
+template <class Op, class X, class Y, class Z>
+void combine_in_order(Op op, const X& x, const Y& y, const Z& z, int i, int columns) {
+  ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) store(z.at(i, j), op(x.element(i, j), y.element(i, j)));
+}
+
 template <class Op, class A, class B, class D>
-void combine_any(const A& a, const B& b, const D& d, int rows, int columns, int count) {
+void combine_any(Op op, const A& a, const B& b, const D& d, int rows, int columns, int count) {
   for (int k = 0; k < count; ++k) {
     const auto x = a.object(k);
     const auto y = b.object(k);
     const auto z = d.object(k);
     for (int i = 0; i < rows; ++i) {
-      if constexpr (x.plain && y.plain && z.plain) {
-        run_packs(Op{}, Elements{x.at(i, 0)}, Elements{y.at(i, 0)}, z.at(i, 0), columns);
-      } else {
-        ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) store(z.at(i, j), Op{}(load(x.at(i, j)), load(y.at(i, j))));
-      }
+      if constexpr (x.plain && y.plain && z.plain) run_packs(op, along_row(x, i), along_row(y, i), z.at(i, 0), columns);
+      else combine_in_order(op, x, y, z, i, columns);
     }
   }
 }
 
+/// True if a store to z could change an element of x that is still to be read: z starts inside x's row, behind its start.
+template <class X, class Z>
+ZELM_INLINE bool runs_into(const X& x, const Z& z, int columns) {
+  if constexpr (requires { x.at(0, 0); }) {
+    const auto distance = reinterpret_cast<std::uintptr_t>(z.at(0, 0)) - reinterpret_cast<std::uintptr_t>(x.at(0, 0));
+    return distance - 1 < columns * sizeof(typename Z::T) - 1;
+  } else {
+    return false;
+  }
+}
+
 template <class Op, class A, class B, class D>
-ZELM_INLINE ZelStatus combine(A a, B b, D d, int width, int height, int count) {
-  if (combine_tight<Op>(a, b, d, height, width, count)) return zelStsOk;
-  if (combine_interleaved<Op>(a, b, d, height, width, count)) return zelStsOk;
-  if (width != height || width < 3 || width > 6) combine_any<Op>(a, b, d, height, width, count);
-  else if (width == 3) combine_fixed<Op, 3, 3>(a, b, d, count);
-  else if (width == 4) combine_fixed<Op, 4, 4>(a, b, d, count);
-  else if (width == 5) combine_fixed<Op, 5, 5>(a, b, d, count);
-  else combine_fixed<Op, 6, 6>(a, b, d, count);
-  return zelStsOk;
+ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int width, int height, int count) {
+  if (combine_tight(op, a, b, d, height, width, count)) return;
+  if (combine_interleaved(op, a, b, d, height, width, count)) return;
+  if (width != height || width < 3 || width > 6) combine_any(op, a, b, d, height, width, count);
+  else if (width == 3) combine_fixed<3, 3>(op, a, b, d, count);
+  else if (width == 4) combine_fixed<4, 4>(op, a, b, d, count);
+  else if (width == 5) combine_fixed<5, 5>(op, a, b, d, count);
+  else combine_fixed<6, 6>(op, a, b, d, count);
 }
 
 /// Vectors are matrices of one row.
 template <class Op, class A, class B, class D>
+ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int width, int count) {
+  if constexpr (!D::array) {
+    const auto x = a.object(0);
+    const auto y = b.object(0);
+    const auto z = d.object(0);
+    if (!x.plain || !y.plain || !z.plain || runs_into(x, z, width) || runs_into(y, z, width))
+      return combine_in_order(op, x, y, z, 0, width);
+  } else {
+    if (combine_tight(op, a, b, d, 1, width, count)) return;
+    if (combine_interleaved(op, a, b, d, 1, width, count)) return;
+    if constexpr (B::constant && B::array && D::plain && (A::plain || !A::array)) {
+      if (d.tight(1, width) && (!A::array || a.tight(1, width))) {
+        switch (width) {
+          case 3: return combine_constants<3>(op, a, b, d, count);
+          case 4: return combine_constants<4>(op, a, b, d, count);
+          case 5: return combine_constants<5>(op, a, b, d, count);
+          case 6: return combine_constants<6>(op, a, b, d, count);
+        }
+      }
+    }
+  }
+  switch (width) {
+    case 3: return combine_fixed<1, 3>(op, a, b, d, count);
+    case 4: return combine_fixed<1, 4>(op, a, b, d, count);
+    case 5: return combine_fixed<1, 5>(op, a, b, d, count);
+    case 6: return combine_fixed<1, 6>(op, a, b, d, count);
+  }
+  combine_any(op, a, b, d, 1, width, count);
+}
+
+/// A constant by value is an operand like any other.
+template <class V>
+ZELM_INLINE auto operand(V v) {
+  if constexpr (std::is_floating_point_v<V>) return ConstantView<V>{v};
+  else return v;
+}
+
+// The formulas, as the kernels call them
+
+template <class Op, class A, class B, class D>
+ZELM_INLINE ZelStatus combine(A a, B b, D d, int width, int height, int count) {
+  combine_matrices(Op{}, a, operand(b), d, width, height, count);
+  return zelStsOk;
+}
+template <class Op, class A, class B, class D>
 ZELM_INLINE ZelStatus combine(A a, B b, D d, int width, int count) {
-  if (combine_tight<Op>(a, b, d, 1, width, count)) return zelStsOk;
-  if (combine_interleaved<Op>(a, b, d, 1, width, count)) return zelStsOk;
-  if (width == 3) combine_fixed<Op, 1, 3>(a, b, d, count);
-  else if (width == 4) combine_fixed<Op, 1, 4>(a, b, d, count);
-  else if (width == 5) combine_fixed<Op, 1, 5>(a, b, d, count);
-  else if (width == 6) combine_fixed<Op, 1, 6>(a, b, d, count);
-  else combine_any<Op>(a, b, d, 1, width, count);
+  combine_vectors(Op{}, a, operand(b), d, width, count);
+  return zelStsOk;
+}
+
+/// d = a * val + b
+template <class A, class B, class D>
+ZELM_INLINE ZelStatus combine_scaled(A a, typename D::T val, B b, D d, int width, int count) {
+  combine_vectors(ScaledPlus<typename D::T>{val}, a, b, d, width, count);
+  return zelStsOk;
+}
+
+/// d = a * val1 + b * val2
+template <class A, class B, class D>
+ZELM_INLINE ZelStatus combine_weighted(A a, typename D::T val1, B b, typename D::T val2, D d, int width, int count) {
+  combine_vectors(WeightedSum<typename D::T>{val1, val2}, a, b, d, width, count);
   return zelStsOk;
 }
 

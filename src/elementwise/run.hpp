@@ -3,8 +3,9 @@
 #pragma once
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
-#include "simd/pack.hpp"
+#include "frame/views.hpp"
 
 namespace zelm::elementwise {
 
@@ -20,6 +21,8 @@ struct Elements {
   ZELM_INLINE auto one(std::ptrdiff_t e) const { return load(p + e); }
   ZELM_INLINE bool is_aligned() const { return reinterpret_cast<std::uintptr_t>(p) % 16 == 0; }
   ZELM_INLINE Elements<E, true> as_aligned() const { return {p}; }
+  /// True if no element of a run of n is one of the n elements from d on.
+  ZELM_INLINE bool apart(const T* d, std::ptrdiff_t n) const { return p + n <= d || d + n <= p; }
 };
 template <class E>
 Elements(E*) -> Elements<E>;
@@ -33,16 +36,44 @@ struct Same {
   ZELM_INLINE auto one(std::ptrdiff_t) const { return value; }
   ZELM_INLINE bool is_aligned() const { return false; }
   ZELM_INLINE Same as_aligned() const { return *this; }
+  ZELM_INLINE bool apart(const V*, std::ptrdiff_t) const { return true; }
 };
 
-template <bool array, class E>
-ZELM_INLINE auto along(E* p) {
-  if constexpr (array) return Elements<E>{p};
-  else return Same<std::remove_const_t<E>>{load(p)};
+/// Element (i, j) of all objects of an interleaved array, or of a single one.
+template <class View>
+ZELM_INLINE auto along(const View& view, int i, int j) {
+  if constexpr (View::constant && View::array) return Elements{view.at(0)};
+  else if constexpr (View::array) return Elements{view.object(0).at(i, j)};
+  else return Same<typename View::T>{view.object(0).element(i, j)};
+}
+
+/// Row i of an object whose rows are runs.
+template <class Object>
+ZELM_INLINE auto along_row(const Object& object, int i) {
+  if constexpr (requires { object.at(i, 0); }) return Elements{object.at(i, 0)};
+  else return Same<typename Object::T>{object.element(i, 0)};
+}
+
+/// Calls body(0), ..., body(N - 1) with constants.
+template <int N, class Body>
+ZELM_INLINE void unroll(Body body) {
+  [&]<int... q>(std::integer_sequence<int, q...>) { (body(std::integral_constant<int, q>{}), ...); }
+  (std::make_integer_sequence<int, N>{});
+}
+
+/// Of objects of N elements one after the other, register q: each element's object's lane of `values`.
+template <int N, int q>
+ZELM_INLINE Pack<float> spread(Pack<float> values) {
+  constexpr auto lane = [](int l) { return (4 * q + l) / N; };
+  return {shuffle<lane(0) | lane(1) << 2 | lane(2) << 4 | lane(3) << 6>(values.raw, values.raw)};
+}
+template <int N, int q>
+ZELM_INLINE Pack<double> spread(Pack<double> values) {
+  return {shuffle<2 * q / N | (2 * q + 1) / N << 1>(values.raw, values.raw)};
 }
 
 /// Four registers in flight; the loads of a step stand before its stores, as d may be a or b.
-template <class Op, class A, class B, class T>
+template <bool streamed = false, class Op, class A, class B, class T>
 ZELM_INLINE void run_packs(Op op, A a, B b, T* d, std::ptrdiff_t n) {
   constexpr int L = Pack<T>::lanes;
   const std::ptrdiff_t in_fours = n / (4 * L) * (4 * L), in_packs = n / L * L;
@@ -50,16 +81,18 @@ ZELM_INLINE void run_packs(Op op, A a, B b, T* d, std::ptrdiff_t n) {
   ZELM_AS_IT_STANDS for (; e < in_fours; e += 4 * L) {
     Pack<T> r[4];
     ZELM_UNROLL for (int q = 0; q < 4; ++q) r[q] = op(a.pack(e + q * L), b.pack(e + q * L));
-    ZELM_UNROLL for (int q = 0; q < 4; ++q) r[q].store(d + e + q * L);
+    ZELM_UNROLL for (int q = 0; q < 4; ++q) put<streamed>(r[q], d + e + q * L);
   }
-  ZELM_AS_IT_STANDS for (; e < in_packs; e += L) op(a.pack(e), b.pack(e)).store(d + e);
+  ZELM_AS_IT_STANDS for (; e < in_packs; e += L) put<streamed>(op(a.pack(e), b.pack(e)), d + e);
   ZELM_AS_IT_STANDS for (; e < n; ++e) store(d + e, op(a.one(e), b.one(e)));
+  if constexpr (streamed) _mm_sfence();
 }
 
 /// A run long enough to be worth a call.
 template <class Op, class A, class B, class T>
 __attribute__((noinline)) void run(Op op, A a, B b, T* d, std::ptrdiff_t n) {
-  if (b.is_aligned()) run_packs(op, a, b.as_aligned(), d, n);
+  if (worth_streaming(d, n) && a.apart(d, n) && b.apart(d, n)) run_packs<true>(op, a, b, d, n);
+  else if (b.is_aligned()) run_packs(op, a, b.as_aligned(), d, n);
   else run_packs(op, a, b, d, n);
 }
 
@@ -82,14 +115,14 @@ struct Pattern {
       for (int i = 0; i < rows; ++i) {
         if constexpr (Object::plain)
           std::memcpy(elements + filled, object.at(i, 0), std::size_t(columns) * sizeof(T)), filled += columns;
-        else ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) elements[filled++] = load(object.at(i, j));
+        else ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) elements[filled++] = object.element(i, j);
       }
     }
   }
 };
 
-/// d = op(a, pattern), or op(pattern, a) if `first`, with Q registers of the pattern a turn.
-template <class Op, bool first, int Q, class T>
+/// d = op(a, pattern), or op(pattern, a) if `first`, with Q registers of the pattern a turn; Q = 0: as many as it has.
+template <class Op, bool first, int Q, bool streamed = false, class T>
 __attribute__((noinline)) void run_repeated(Op op, const T* a, const Pattern<T>& pattern, T* d, std::ptrdiff_t n) {
   constexpr int L = Pack<T>::lanes;
   const auto combined = [&](auto x, auto y) { return first ? op(y, x) : op(x, y); };
@@ -99,7 +132,7 @@ __attribute__((noinline)) void run_repeated(Op op, const T* a, const Pattern<T>&
   std::ptrdiff_t e = 0;
   ZELM_AS_IT_STANDS for (const std::ptrdiff_t end = n / (packs * L) * (packs * L); e < end; e += packs * L) {
     if constexpr (Q > 0) {
-      ZELM_UNROLL for (int q = 0; q < Q; ++q) combined(Pack<T>::load(a + e + q * L), held[q]).store(d + e + q * L);
+      ZELM_UNROLL for (int q = 0; q < Q; ++q) put<streamed>(combined(Pack<T>::load(a + e + q * L), held[q]), d + e + q * L);
     } else {
       ZELM_AS_IT_STANDS for (int q = 0; q < packs; ++q)
           combined(Pack<T>::load(a + e + q * L), Pack<T>::load_aligned(pattern.elements + q * L))
@@ -107,11 +140,13 @@ __attribute__((noinline)) void run_repeated(Op op, const T* a, const Pattern<T>&
     }
   }
   ZELM_AS_IT_STANDS for (int q = 0; e < n; ++e, ++q) store(d + e, combined(load(a + e), pattern.elements[q]));
+  if constexpr (streamed) _mm_sfence();
 }
 
 /// The small sizes have loops of their own: 1 to 9 registers are vectors of 3 to 6 elements and matrices of 3 x 3, 4 x 4, 6 x 6.
 template <class Op, bool first, class T>
 void run_repeated(Op op, const T* a, const Pattern<T>& pattern, T* d, std::ptrdiff_t n) {
+  if (worth_streaming(d, n) && Elements{a}.apart(d, n)) return run_repeated<Op, first, 0, true>(op, a, pattern, d, n);
   switch (pattern.packs) {
     case 1: return run_repeated<Op, first, 1>(op, a, pattern, d, n);
     case 2: return run_repeated<Op, first, 2>(op, a, pattern, d, n);

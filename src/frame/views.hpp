@@ -35,6 +35,7 @@ struct StridedObject {
   ZELM_INLINE Element* at(int i, int j) const {
     return moved(base, i * row_stride + j * (adjacent ? Bytes(sizeof(T)) : element_stride));
   }
+  ZELM_INLINE T element(int i, int j) const { return load(at(i, j)); }
   template <int N>
   ZELM_INLINE Row<T, N> row(int i) const {
     if constexpr (adjacent) return Row<T, N>::load(at(i, 0));
@@ -58,6 +59,7 @@ struct TableObject {
   int columns;
 
   ZELM_INLINE Element* at(int i, int j) const { return moved(table[std::ptrdiff_t(i) * columns + j], shift); }
+  ZELM_INLINE T element(int i, int j) const { return load(at(i, j)); }
   template <int N>
   ZELM_INLINE Row<T, N> row(int i) const {
     return Row<T, N>::gather([&](int j) { return at(i, j); });
@@ -76,9 +78,24 @@ struct TransposedObject {
   Object stored;
 
   ZELM_INLINE auto at(int i, int j) const { return stored.at(j, i); }
+  ZELM_INLINE T element(int i, int j) const { return stored.element(j, i); }
   template <int N>
   ZELM_INLINE Row<T, N> row(int i) const {
     return Row<T, N>::gather([&](int j) { return at(i, j); });
+  }
+};
+
+/// All elements are one constant.
+template <class V>
+struct ConstantObject {
+  using T = V;
+  static constexpr bool plain = true, turned = false;
+  V value;
+
+  ZELM_INLINE T element(int, int) const { return value; }
+  template <int N>
+  ZELM_INLINE Row<T, N> row(int) const {
+    return Row<T, N>::splat(value);
   }
 };
 
@@ -86,7 +103,7 @@ template <class Element, bool adjacent, bool is_array>
 struct StridedView {
   using T = std::remove_const_t<Element>;
   using Object = StridedObject<Element, adjacent>;
-  static constexpr bool array = is_array, plain = adjacent;
+  static constexpr bool array = is_array, plain = adjacent, constant = false;
   Element* first;
   Bytes stride0, row_stride, element_stride;
 
@@ -102,6 +119,7 @@ struct StridedView {
     ZELM_UNROLL for (int l = 0; l < L; ++l)
         to[l] = {array ? moved(o.base, (l < valid ? l : valid - 1) * stride0) : o.base, row_stride, element_stride};
   }
+  ZELM_INLINE StridedView<Element, true, is_array> as_adjacent() const { return {first, stride0, row_stride, sizeof(T)}; }
   /// True if all elements of all objects form one run of memory without a gap, row by row and object by object.
   ZELM_INLINE bool tight(int rows, int columns) const {
     if constexpr (!adjacent) return false;
@@ -116,11 +134,12 @@ template <class Element, bool adjacent>
 struct ListView {
   using T = std::remove_const_t<Element>;
   using Object = StridedObject<Element, adjacent>;
-  static constexpr bool array = true, plain = false;
+  static constexpr bool array = true, plain = false, constant = false;
   Element* const* list;
   Bytes shift, row_stride, element_stride;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {moved(list[k], shift), row_stride, element_stride}; }
+  ZELM_INLINE ListView<Element, true> as_adjacent() const { return {list, shift, row_stride, sizeof(T)}; }
   template <int L>
   ZELM_INLINE void objects(std::ptrdiff_t k, int valid, Object (&to)[L]) const {
     ZELM_UNROLL for (int l = 0; l < L; ++l) to[l] = object(k + (l < valid ? l : valid - 1));
@@ -133,7 +152,7 @@ template <class Element, bool is_array>
 struct TableView {
   using T = std::remove_const_t<Element>;
   using Object = TableObject<Element>;
-  static constexpr bool array = is_array, plain = false;
+  static constexpr bool array = is_array, plain = false, constant = false;
   Element* const* table;
   Bytes shift, stride0;
   int columns;
@@ -147,11 +166,48 @@ struct TableView {
   ZELM_INLINE bool interleaved() const { return array && stride0 == Bytes(sizeof(T)); }
 };
 
+/// A constant by value, the same for all objects.
+template <class V>
+struct ConstantView {
+  using T = V;
+  using Object = ConstantObject<V>;
+  static constexpr bool array = false, plain = true, constant = true;
+  V value;
+
+  ZELM_INLINE Object object(std::ptrdiff_t) const { return {value}; }
+  ZELM_INLINE bool tight(int, int) const { return false; }
+  ZELM_INLINE bool interleaved() const { return false; }
+};
+
+/// A constant for each object, at a fixed distance or through a list of pointers.
+template <class Element, bool list>
+struct ConstantsView {
+  using T = std::remove_const_t<Element>;
+  using Object = ConstantObject<T>;
+  static constexpr bool array = true, plain = false, constant = true;
+  std::conditional_t<list, Element* const*, Element*> first;
+  Bytes stride0;  // of a list: the shift of every pointer
+
+  ZELM_INLINE Element* at(std::ptrdiff_t k) const {
+    if constexpr (list) return moved(first[k], stride0);
+    else return moved(first, k * stride0);
+  }
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {load(at(k))}; }
+  ZELM_INLINE bool tight(int, int) const { return false; }
+  ZELM_INLINE bool interleaved() const { return !list && stride0 == Bytes(sizeof(T)); }
+  /// Constants of as many objects as a register has lanes.
+  ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k) const {
+    constexpr int L = Pack<T>::lanes;
+    if (interleaved()) return Pack<T>::load(at(k));
+    return Pack<T>::template gather<L>([&](int l) { return at(k + l); });
+  }
+};
+
 template <class View>
 struct TransposedView {
   using T = typename View::T;
   using Object = TransposedObject<typename View::Object>;
-  static constexpr bool array = View::array, plain = false;
+  static constexpr bool array = View::array, plain = false, constant = false;
   View stored;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {stored.object(k)}; }
@@ -162,6 +218,15 @@ struct TransposedView {
 template <class View>
 ZELM_INLINE TransposedView<View> transposed(View view) {
   return {view};
+}
+
+/// Calls body with the view, in the form that knows that its elements are adjacent where they are.
+template <class View, class Body>
+ZELM_INLINE void with_adjacent(const View& view, Body body) {
+  if constexpr (requires { view.as_adjacent(); }) {
+    if (view.element_stride == Bytes(sizeof(typename View::T))) return body(view.as_adjacent());
+  }
+  body(view);
 }
 
 // Makers, in the order of the argument groups. Without an element stride the elements are adjacent.
@@ -223,6 +288,15 @@ ZELM_INLINE TableView<E, false> table(E* const* pp, Bytes shift, int columns) {
 template <class E>
 ZELM_INLINE TableView<E, true> tables(E* const* pp, Bytes shift, int stride0, int columns) {
   return {pp, shift, stride0, columns};
+}
+
+template <class E>
+ZELM_INLINE ConstantsView<E, false> constants(E* p, int stride0) {
+  return {p, stride0};
+}
+template <class E>
+ZELM_INLINE ConstantsView<E, true> constant_list(E* const* pp, int shift) {
+  return {pp, shift};
 }
 
 // Fixed sizes

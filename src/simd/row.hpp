@@ -17,6 +17,11 @@ struct Row {
     if constexpr (rest > 0) r.pack[full] = P::template load_first<rest>(p + full * P::lanes);
     return r;
   }
+  static ZELM_INLINE Row splat(T x) {
+    Row r;
+    ZELM_UNROLL for (int q = 0; q < packs; ++q) r.pack[q] = P::splat(x);
+    return r;
+  }
   ZELM_INLINE void store(T* p) const {
     ZELM_UNROLL for (int q = 0; q < full; ++q) pack[q].store(p + q * P::lanes);
     if constexpr (rest > 0) pack[full].template store_first<rest>(p + full * P::lanes);

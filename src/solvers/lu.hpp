@@ -98,17 +98,21 @@ __attribute__((noinline)) ZelStatus decompose_some(const A& a, int* index, const
   Elimination<T, N, true> f;
   f.w.load(a, k, valid);
   f.run();
-  alignas(16) T order[N][Pack<T>::lanes], rows[Pack<T>::lanes];
-  ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) f.p[i].store(order[i]);
+  constexpr int L = Pack<T>::lanes;
+  alignas(16) T order[N][L], rows[L], row[L][N];
+  ZELM_UNROLL for (int i = 0; i < N; ++i) f.p[i].store(order[i]);
   f.finished.store(rows);
-  for (int l = 0; l < valid; ++l) {
-    const auto object = d.object(k + l);
-    ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) store(index + (k + l) * N + i, int(order[i][l]));
-    ZELM_AS_IT_STANDS for (int i = 0; i < int(rows[l]); ++i) ZELM_AS_IT_STANDS for (int j = 0; j < N; ++j)
-        store(object.at(int(order[i][l]), j), f.w.at(l, i, j));
-    if (int(rows[l]) < N) return zelStsSingular;
+  int written = 0;
+  while (written < valid && rows[written++] == T(N)) {
   }
-  return zelStsOk;
+  for (int l = 0; l < written; ++l)
+    ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) store(index + (k + l) * N + i, int(order[i][l]));
+  ZELM_UNROLL for (int i = 0; i < N; ++i) {
+    lanes_to_rows(f.w.e[i], [&](int l) { return row[l]; });
+    ZELM_AS_IT_STANDS for (int l = 0; l < written; ++l) if (T(i) < rows[l]) d.object(k + l).set_row(int(order[i][l]),
+                                                                                                    Row<T, N>::load(row[l]));
+  }
+  return rows[written - 1] == T(N) ? zelStsOk : zelStsSingular;
 }
 
 /// Row orders of L objects, whose lanes hold whole numbers as integers.

@@ -1,0 +1,263 @@
+// move.hpp: elements from one place to another as bit patterns: copies between the layouts, packed blocks, transposes,
+// identities. No arithmetic touches an element.
+// Source and destination lie apart, or coincide in a copy of like layout and strides.
+#pragma once
+#include <cstdint>
+#include <cstring>
+
+#include "companion/companion.hpp"
+#include "elementwise/run.hpp"
+#include "elementwise/transpose_strips.hpp"
+#include "frame/lanes.hpp"
+#include "zelm_types.h"
+
+namespace zelm::elementwise::move {
+
+/// A run of elements. What is long goes to the C library, which knows the processor's fastest way.
+template <class T>
+ZELM_INLINE void copy_run(const T* s, T* d, std::ptrdiff_t n) {
+  constexpr int L = Pack<T>::lanes;
+  if (n * Bytes(sizeof(T)) > 512) {
+    const auto from = reinterpret_cast<std::uintptr_t>(s), to = reinterpret_cast<std::uintptr_t>(d);
+    const std::size_t bytes = std::size_t(n) * sizeof(T);
+    if (from - to >= bytes && to - from >= bytes) {
+      std::memcpy(d, s, bytes);
+      return;
+    }
+  }
+  std::ptrdiff_t e = 0;
+  ZELM_AS_IT_STANDS for (const std::ptrdiff_t end = n / L * L; e < end; e += L) Pack<T>::load(s + e).store(d + e);
+  ZELM_AS_IT_STANDS for (; e < n; ++e) store(d + e, load(s + e));
+}
+
+template <class T>
+ZELM_INLINE void fill_zero(T* d, int n) {
+  constexpr int L = Pack<T>::lanes;
+  int e = 0;
+  ZELM_AS_IT_STANDS for (; e + L <= n; e += L) Pack<T>::zero().store(d + e);
+  ZELM_AS_IT_STANDS for (; e < n; ++e) store(d + e, T(0));
+}
+
+template <int C, class S, class D>
+ZELM_INLINE void copy_rows(const S& s, const D& d, int rows, std::ptrdiff_t count) {
+  for (std::ptrdiff_t k = 0; k < count; ++k) {
+    const auto from = s.object(k);
+    const auto to = d.object(k);
+    ZELM_AS_IT_STANDS for (int i = 0; i < rows; ++i) to.template set_row<C>(i, from.template row<C>(i));
+  }
+}
+
+/// Calls body(j, number) for the columns four at a time, and with a constant number for the one to three that are left.
+template <int L, class Body>
+ZELM_INLINE void for_tiles(int columns, Body body) {
+  int j = 0;
+  ZELM_AS_IT_STANDS for (; j + L <= columns; j += L) body(j, std::integral_constant<int, L>{});
+  if (columns - j == 1) body(j, std::integral_constant<int, 1>{});
+  if constexpr (L > 2) {
+    if (columns - j == 2) body(j, std::integral_constant<int, 2>{});
+    if (columns - j == 3) body(j, std::integral_constant<int, 3>{});
+  }
+}
+
+/// Between objects whose rows are runs and objects that are interleaved: as many of them as a register has lanes, in tiles that
+/// are transposed in registers. `gather`: from rows to interleaved elements. Returns the number of objects done.
+template <bool gather, class Rows, class Apart>
+std::ptrdiff_t copy_interleaved(const Rows& by_rows, const Apart& apart, int rows, int columns, std::ptrdiff_t count) {
+  using T = typename Rows::T;
+  constexpr int L = Pack<T>::lanes;
+  std::ptrdiff_t k = 0;
+  for (; k + L <= count; k += L) {
+    typename Rows::Object objects[L];
+    by_rows.objects(k, L, objects);
+    const auto first = apart.object(k);
+    for (int i = 0; i < rows; ++i)
+      for_tiles<L>(columns, [&](int j, auto number) ZELM_INLINE_LAMBDA {
+        Pack<T> e[number];
+        if constexpr (gather) {
+          rows_to_lanes(e, [&](int l) { return objects[l].at(i, j); });
+          ZELM_UNROLL for (int q = 0; q < number; ++q) e[q].store(first.at(i, j + q));
+        } else {
+          ZELM_UNROLL for (int q = 0; q < number; ++q) e[q] = Pack<T>::load(first.at(i, j + q));
+          lanes_to_rows(e, [&](int l) { return objects[l].at(i, j); });
+        }
+      });
+  }
+  return k;
+}
+
+template <class S, class D>
+void copy_objects(const S& s, const D& d, int rows, int columns, std::ptrdiff_t count) {
+  constexpr bool from_rows = S::Object::plain, to_rows = D::Object::plain;
+  const bool side_by_side = count > 1 && s.interleaved() && d.interleaved();
+  std::ptrdiff_t done = 0;
+  if (side_by_side) {
+    for (int i = 0; i < rows; ++i)
+      for (int j = 0; j < columns; ++j) copy_run(s.object(0).at(i, j), d.object(0).at(i, j), count);
+    return;
+  } else if constexpr (from_rows && to_rows) {
+    if (count > 1 && s.tight(rows, columns) && d.tight(rows, columns))
+      return copy_run(s.object(0).base, d.object(0).base, count * rows * columns);
+    switch (columns) {
+      case 3: return copy_rows<3>(s, d, rows, count);
+      case 4: return copy_rows<4>(s, d, rows, count);
+      case 5: return copy_rows<5>(s, d, rows, count);
+      case 6: return copy_rows<6>(s, d, rows, count);
+    }
+  } else if constexpr (from_rows) {
+    if (count > 1 && d.interleaved()) done = copy_interleaved<true>(s, d, rows, columns, count);
+  } else if constexpr (to_rows) {
+    if (count > 1 && s.interleaved()) done = copy_interleaved<false>(d, s, rows, columns, count);
+  }
+  for (std::ptrdiff_t k = done; k < count; ++k) {
+    const auto from = s.object(k);
+    const auto to = d.object(k);
+    for (int i = 0; i < rows; ++i) {
+      if constexpr (from_rows && to_rows) copy_run(from.at(i, 0), to.at(i, 0), columns);
+      else ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) store(to.at(i, j), load(from.at(i, j)));
+    }
+  }
+}
+
+template <int N, bool streamed = false, class S, class D>
+void transpose_fixed(const S& s, const D& d, std::ptrdiff_t count) {
+  using T = typename D::T;
+  // Rows of whole registers can go past the caches, since they all begin at multiples of 16 bytes.
+  if constexpr (!streamed && N % Pack<T>::lanes == 0) {
+    const bool apart = count > 1 && s.tight(N, N) && d.tight(N, N);
+    if (apart && worth_streaming(d.object(0).base, count * N * N)) {
+      if (Elements{s.object(0).base}.apart(d.object(0).base, count * N * N)) return transpose_fixed<N, true>(s, d, count);
+    }
+  }
+  for (std::ptrdiff_t k = 0; k < count; ++k) {
+    const auto block = transposed(block_of<N, N>(s.object(k)));
+    const auto to = d.object(k);
+    ZELM_UNROLL for (int i = 0; i < N; ++i) {
+      if constexpr (streamed) {
+        ZELM_UNROLL for (int q = 0; q < Row<T, N>::packs; ++q) block.rows[i].pack[q].stream(to.at(i, q * Pack<T>::lanes));
+      } else {
+        to.template set_row<N>(i, block.rows[i]);
+      }
+    }
+  }
+  if constexpr (streamed) _mm_sfence();
+}
+
+/// Object of height x width to object of width x height.
+template <class S, class D>
+void transpose_objects(const S& s, const D& d, int width, int height, std::ptrdiff_t count) {
+  if constexpr (S::Object::plain && D::Object::plain) {
+    if (width == height) {
+      switch (width) {
+        case 3: return transpose_fixed<3>(s, d, count);
+        case 4: return transpose_fixed<4>(s, d, count);
+        case 5: return transpose_fixed<5>(s, d, count);
+        case 6: return transpose_fixed<6>(s, d, count);
+      }
+    }
+  }
+  if (count > 1 && s.interleaved() && d.interleaved()) return copy_objects(transposed(s), d, width, height, count);
+  for (std::ptrdiff_t k = 0; k < count; ++k) {
+    const auto from = s.object(k);
+    const auto to = d.object(k);
+    if constexpr (S::Object::plain && D::Object::plain && std::is_same_v<typename D::T, float>) {
+      p8_ownm_Transpose_32s(reinterpret_cast<const std::int32_t*>(from.base), int(from.row_stride),
+                            reinterpret_cast<std::int32_t*>(to.base), int(to.row_stride), width, height);
+    } else {
+      for (int j = 0; j < width; ++j)
+        ZELM_AS_IT_STANDS for (int i = 0; i < height; ++i) store(to.at(j, i), load(from.at(i, j)));
+    }
+  }
+}
+
+/// The block of `count` objects of height x width that starts at p, without gaps.
+template <class T>
+ZELM_INLINE StridedView<T, true, true> packed(T* p, int width, int height) {
+  const Bytes row = width * Bytes(sizeof(T));
+  return {p, height * row, row, sizeof(T)};
+}
+
+// The formulas, as entries and kernels call them
+
+template <class S, class D>
+ZelStatus copy(S s, D d, int width, int height, int count) {
+  with_adjacent(s, [&](auto from) { with_adjacent(d, [&](auto to) { copy_objects(from, to, height, width, count); }); });
+  return zelStsOk;
+}
+template <class S, class D>
+ZelStatus copy(S s, D d, int width, int count) {
+  return copy(s, d, width, 1, count);
+}
+
+template <class S>
+ZelStatus extract(S s, typename S::T* pDst, int width, int height, int count) {
+  with_adjacent(s, [&](auto from) { copy_objects(from, packed(pDst, width, height), height, width, count); });
+  return zelStsOk;
+}
+template <class S>
+ZelStatus extract(TransposedView<S> s, typename S::T* pDst, int width, int height, int count) {
+  with_adjacent(s.stored, [&](auto from) { transpose_objects(from, packed(pDst, width, height), height, width, count); });
+  return zelStsOk;
+}
+template <class S>
+ZelStatus extract(S s, typename S::T* pDst, int width, int count) {
+  return extract(s, pDst, width, 1, count);
+}
+
+template <bool streamed, class T>
+void fill_repeated(const Pattern<T>& pattern, T* d, std::ptrdiff_t n) {
+  constexpr int L = Pack<T>::lanes;
+  const std::ptrdiff_t period = pattern.packs * L;
+  std::ptrdiff_t e = 0;
+  ZELM_AS_IT_STANDS for (; e + period <= n; e += period) ZELM_AS_IT_STANDS for (int q = 0; q < pattern.packs; ++q)
+      put<streamed>(Pack<T>::load_aligned(pattern.elements + q * L), d + e + q * L);
+  ZELM_AS_IT_STANDS for (int q = 0; e < n; ++e, ++q) store(d + e, pattern.elements[q]);
+  if constexpr (streamed) _mm_sfence();
+}
+
+template <class T>
+struct IdentityObject {
+  static constexpr bool plain = false;
+  ZELM_INLINE T element(int i, int j) const { return T(i == j); }
+};
+
+/// Zeros and ones are stored as constants; nothing is read.
+template <class D>
+ZelStatus load_identity(D d, int width, int height, int count) {
+  using T = typename D::T;
+  with_adjacent(d, [&](auto to) {
+    if constexpr (to.plain) {
+      const std::ptrdiff_t size = std::ptrdiff_t(width) * height, n = size * count;
+      if (count > 1 && size <= Pattern<T>::limit && to.tight(height, width)) {
+        const Pattern<T> pattern(IdentityObject<T>{}, height, width);
+        return worth_streaming(to.first, n) ? fill_repeated<true>(pattern, to.first, n)
+                                            : fill_repeated<false>(pattern, to.first, n);
+      }
+    }
+    for (int k = 0; k < count; ++k) {
+      const auto object = to.object(k);
+      for (int i = 0; i < height; ++i) {
+        if constexpr (object.plain) fill_zero(object.at(i, 0), width);
+        else ZELM_AS_IT_STANDS for (int j = 0; j < width; ++j) store(object.at(i, j), T(0));
+        if (i < width) store(object.at(i, i), T(1));
+      }
+    }
+  });
+  return zelStsOk;
+}
+
+/// Sizes are those of the source. On its way to the strips the contiguous float kernel of arrays asks for the cache size, with a
+/// result that nothing depends on: the strips suit every size.
+template <class S, class D>
+ZelStatus transpose(S s, int width, int height, D d, int count) {
+  if constexpr (S::array && S::Object::plain && D::Object::plain && std::is_same_v<typename S::T, float>) {
+    const bool fixed = width == height && width >= 3 && width <= 6;
+    if (!fixed && int(unsigned(width) * 8 * (unsigned(height) * unsigned(count))) > 131072) {
+      int cache = 0;
+      zelGetMaxCacheSizeB(&cache);
+    }
+  }
+  transpose_objects(s, d, width, height, count);
+  return zelStsOk;
+}
+
+}  // namespace zelm::elementwise::move
