@@ -6,7 +6,6 @@
 namespace zelm::bench {
 namespace {
 
-const std::vector<Limit> kStream = {{1.05, "SSE4.2", {Set::l1}}, {1.05, "native", {Set::llc, Set::memory}}};
 const std::vector<Limit> kBeyondL1 = {{1.05, "native", {Set::llc, Set::memory}}};
 
 /// One size stands for all where two threads are compared with one.

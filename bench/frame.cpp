@@ -57,10 +57,13 @@ class Arrays {
  public:
   Arrays(const Case& c, std::ptrdiff_t count) : case_(c), count_(count) {
     std::size_t end = 0;
-    // A line between neighbours: arrays of whole pages would compete for the same cache sets.
+    // Neighbours begin at different thirds of a page: a load waits for an earlier store whose address has the same low 12
+    // bits, and arrays of whole pages would compete for the same cache sets.
+    constexpr std::size_t kPage = 4096, kThird = 21 * kLine;
+    std::size_t placed = 0;
     const auto place = [&](std::size_t bytes) {
-      const std::size_t at = end;
-      end = round_up(end + bytes, kLine) + kLine;
+      const std::size_t at = round_up(end, kPage) + placed++ * kThird % kPage;
+      end = at + bytes;
       return at;
     };
     std::vector<std::size_t> tight, planes;
@@ -198,6 +201,17 @@ std::vector<Competitor> rivals_of(const std::string& operation, const std::strin
   return found;
 }
 
+/// "memcpy" from the first operand to the last, or "memset" of the last: what moving the bytes takes.
+Competitor mover(const std::string& name, const Case& c, const Arrays& arrays, int threads) {
+  const Array operands[] = {arrays.data()[0], {}, arrays.data()[c.operands.size() - 1]};
+  const Operand& o = c.operands.back();
+  const std::ptrdiff_t floats = arrays.count() * o.elements * o.element_bytes / std::ptrdiff_t(sizeof(float));
+  for (const Rival& r : zelm_bench_rivals_native())
+    if (r.operation == "bandwidth" && r.name == name)
+      return {name, "bandwidth", [=, loop = r.loop] { divided(loop, operands, floats, threads); }, threads};
+  throw std::runtime_error("no loop for " + name);
+}
+
 Competitor zelm_of(const Case& c, const Arrays& arrays, int threads) {
   const auto run = [&c, &arrays, threads] {
     zelSetNumThreads(threads);
@@ -215,8 +229,8 @@ class Left : public Results {
 
   double at(int operand, std::ptrdiff_t object, int element) const override {
     const Operand& o = case_.operands[std::size_t(operand)];
-    const char* const at = of_zelm_ ? arrays_.element(std::size_t(operand), object, element)
-                                    : arrays_.tight(std::size_t(operand), object) + element * o.element_bytes;
+    const char* const at = of_zelm_ || o.for_all ? arrays_.element(std::size_t(operand), object, element)
+                                                 : arrays_.tight(std::size_t(operand), object) + element * o.element_bytes;
     if (o.index) return value<int>(at);
     return o.element_bytes == 4 ? double(value<float>(at)) : value<double>(at);
   }
@@ -363,7 +377,7 @@ std::ptrdiff_t objects_in(Set set, double bytes_per_object) {
   switch (set) {
     case Set::call: return 1000;
     case Set::many: return 100000;
-    default: return std::max(std::ptrdiff_t(double(sizes().set[int(set)]) / bytes_per_object), std::ptrdiff_t(8));
+    default: return std::max(std::ptrdiff_t(double(sizes().set[int(set)]) / bytes_per_object), std::ptrdiff_t(1));
   }
 }
 
@@ -382,8 +396,11 @@ const char* name(Set set) {
 
 std::string Case::function() const {
   const char* const suffix[] = {"", "_L", "_P"};
-  return type.empty() ? operation : "zelm" + operation + "_" + type + suffix[int(layout)];
+  if (type.empty()) return operation;
+  return "zelm" + operation + "_" + type + (layouts.empty() ? suffix[int(layout)] : "_" + layouts);
 }
+
+std::string Case::rival_operation() const { return layouts.empty() ? operation : operation + "_" + layouts; }
 
 std::vector<Case>& cases() {
   static std::vector<Case> list;
@@ -478,10 +495,14 @@ void measure_case(const Case& c, const std::vector<Set>& sets, const std::functi
       continue;
     }
     for (const int threads : c.threads) {
+      if (threads > 1 && (set == Set::l1 || (set == Set::memory && c.n != 4))) continue;
       std::vector<Competitor> competitors = {zelm_of(c, arrays, threads)};
-      for (Competitor& k : rivals_of(c.operation, c.type, c.n, arrays.data(), arrays.count(), threads))
+      for (Competitor& k : rivals_of(c.rival_operation(), c.type, c.n, arrays.data(), arrays.count(), threads))
         competitors.push_back(std::move(k));
       check(c, arrays, competitors);
+      for (const Limit& limit : c.limits)
+        if (among(set, limit.sets) && (limit.rival == "memcpy" || limit.rival == "memset"))
+          competitors.push_back(mover(limit.rival, c, arrays, threads));
       row(threads, competitors);
     }
   }

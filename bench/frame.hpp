@@ -36,6 +36,7 @@ struct Operand {
   bool output = false;
   bool index = false;        // elements are int
   bool rivals_only = false;  // another form of another operand, not part of the working set
+  bool for_all = false;      // rivals use the table as well
   Layout layout = Layout::standard;
 };
 
@@ -60,6 +61,11 @@ inline Operand for_rivals(Operand operand) {
   return operand;
 }
 
+inline Operand for_all(Operand operand) {
+  operand.for_all = true;
+  return operand;
+}
+
 /// What a competitor has left in memory.
 class Results {
  public:
@@ -69,20 +75,24 @@ class Results {
 };
 
 /// The time of zelm is to be at most `ratio` of that of `rival`: "SSE4.2" or "native" for the best rival of the kind,
-/// "any" for the best of both, "Eigen native" and so on for one of them, "copy", "triad", ... for moving as many bytes
-/// at that bandwidth, "one thread" in the set `many`, "ns" for the nanosecond. It holds with one thread, elsewhere than
-/// in `many`.
+/// "any" for the best of both, "Eigen native" and so on for one of them, "memcpy" for copying as many bytes and "memset"
+/// for clearing them, "one thread" in the set `many`, "ns" for the nanosecond. It holds with one thread, elsewhere than in
+/// `many`.
 struct Limit {
   double ratio;
   std::string rival;
   std::vector<Set> sets;
 };
 
+/// What bandwidth decides: a tie.
+inline const std::vector<Limit> kStream = {{1.05, "SSE4.2", {Set::l1}}, {1.05, "native", {Set::llc, Set::memory}}};
+
 struct Case {
   std::string operation;  // "Add_mama"
   std::string type;       // "32f"; empty: `operation` is no function of zelm
   int n;
   Layout layout = Layout::standard;
+  std::string layouts;  // "SP": of a copy, which has rivals of its own
   std::vector<Operand> operands;
   /// Works on `count` objects; in Set::call `count` times on the same.
   std::function<ZelStatus(const Array*, int count)> call;
@@ -94,9 +104,10 @@ struct Case {
   double tolerance = 0;
   std::vector<Limit> limits;
   std::vector<Set> sets = {Set::l1, Set::llc, Set::memory};  // and those of the limits
-  std::vector<int> threads = {1, 2};
+  std::vector<int> threads = {1, 2};                         // in Set::memory two only at size 4, which stands for all
 
-  std::string function() const;  // "zelmAdd_mama_32f_P"
+  std::string function() const;         // "zelmAdd_mama_32f_P"
+  std::string rival_operation() const;  // "Add_mama"
 };
 
 std::vector<Case>& cases();

@@ -106,8 +106,6 @@ double Report::reference(const Row& row, const std::string& rival) const {
   const auto candidate = [&](double t) { ns = ns == 0 ? t : std::min(ns, t); };
   for (const Timing& t : row.rivals)
     if (rival == "any" || rival == t.isa || rival == t.name || rival == t.name + " " + t.isa) candidate(t.ns);
-  for (const Bandwidth& b : bandwidth_)
-    if (rival == b.name && row.set == b.set && row.threads == b.threads) candidate(row.bytes / b.bytes_per_ns);
   return ns;
 }
 

@@ -105,18 +105,6 @@ constexpr auto eigen_solve_vectors = []<class T, int N>(const Array* at, std::pt
     eigen_solve_one<N>(lu, at[1].of<int>(), at[2].of<T>() + k * N, at[3].of<T>() + k * N);
 };
 
-/// All right-hand sides as the columns of one matrix.
-constexpr auto eigen_solve_matrix = []<class T, int N>(const Array* at, std::ptrdiff_t first, std::ptrdiff_t count) {
-  using Columns = Eigen::Matrix<T, N, Eigen::Dynamic>;
-  const Matrix<T, N> lu = Eigen::Map<const Matrix<T, N>>(at[4].of<T>());
-  Eigen::PermutationMatrix<N, N> to_source;
-  to_source.indices() = Eigen::Map<const Vector<int, N>>(at[1].of<int>());
-  Eigen::Map<Columns> x(at[3].of<T>() + first * N, N, count);
-  x.noalias() = to_source.inverse() * Eigen::Map<const Columns>(at[2].of<T>() + first * N, N, count);
-  lu.template triangularView<Eigen::UnitLower>().solveInPlace(x);
-  lu.template triangularView<Eigen::Upper>().solveInPlace(x);
-};
-
 /// One matrix: its elements and the reciprocals of its pivots stay in registers.
 template <int N, class T>
 void plain_solve_many(const T* __restrict lu, const int* __restrict index, const T* __restrict b, T* __restrict solution,
@@ -151,7 +139,6 @@ const bool all = enroll<3, 4, 5, 6>("LUDecomp_ma", "Eigen", eigen_decompose) &&
                  enroll<3, 4, 5, 6>("LUBackSubst_mava", "Eigen", eigen_solve_each) &&
                  enroll<3, 4, 5, 6>("LUBackSubst_mava", "plain", plain_solve_each) &&
                  enroll<3, 4, 5, 6>("LUBackSubst_mva", "Eigen", eigen_solve_vectors) &&
-                 enroll<3, 4, 5, 6>("LUBackSubst_mva", "Eigen cols", eigen_solve_matrix) &&
                  enroll<3, 4, 5, 6>("LUBackSubst_mva", "plain", plain_solve_vectors);
 
 }  // namespace

@@ -1,33 +1,12 @@
-// Sums and differences of objects: every form, type, layout and kernel against the formula, bit for bit.
+// Sums, differences, products with constants, linear combinations: every form, type, layout and kernel against the
+// formula, bit for bit.
 #include <cmath>
-#include <functional>
 #include <limits>
 
 #include "support/harness.hpp"
 
 namespace zelm::test {
 namespace {
-
-/// An operand as its letters in the name say.
-struct Tag {
-  bool transposed, vector, array;
-};
-std::vector<Tag> tags_of(std::string_view form) {
-  std::vector<Tag> tags;
-  for (const char c : form) {
-    if (c == 'a') tags.back().array = true;
-    else tags.push_back({c == 't', c == 'v', false});
-  }
-  return tags;
-}
-
-struct Form {
-  explicit Form(const Function& f) : tags(tags_of(f.form)), minus(f.name.substr(0, 3) == "Sub") {}
-  std::vector<Tag> tags;
-  bool minus;
-  bool vector() const { return tags[0].vector; }
-  bool array() const { return tags[0].array || tags[1].array; }
-};
 
 template <class T>
 std::vector<T> numbers(int n, Random& random, bool nans) {
@@ -40,124 +19,141 @@ std::vector<T> numbers(int n, Random& random, bool nans) {
   return v;
 }
 
+using Values = std::map<std::string_view, double>;
+
+/// Calls body(formula) with the function's own: behind a choice the compiler would make a - b a + -b, and turn the sign
+/// of a NaN.
+template <class T, class Body>
+void with_formula(const Function& f, const Values& values, Body body) {
+  const T v = T(values.at("val")), v1 = T(values.at("val1")), v2 = T(values.at("val2"));
+  const std::string_view operation = f.row->operation;
+  if (operation == "Add") body([](T a, T b) { return a + b; });
+  else if (operation == "Mul") body([](T a, T b) { return a * b; });
+  else if (operation == "Saxpy") body([=](T a, T b) { return a * v + b; });
+  else if (operation == "LComb") body([=](T a, T b) { return a * v1 + b * v2; });
+  else if (f.form[0] == 'c') body([](T a, T c) { return c - a; });
+  else body([](T a, T b) { return a - b; });
+}
+
 template <class T>
-struct Combination {
-  Combination(const Function& function, int width, int height, int count) : f(function), form(f), w(width), h(height) {
-    sizes.list = {{"width", w}, {"height", h}, {"count", form.array() ? count : 1}};
-    Random random(std::uint32_t(w * 64 + h * 8 + count));
-    // One operand alone has NaNs: which of two goes through is the processor's choice.
-    const int with_nans = random.below(2), size = w * h;
-    for (int o = 0; o < 2; ++o)
-      data.operands.push_back(numbers<T>(size * (form.tags[o].array ? count : 1), random, o == with_nans));
-    data.operands.push_back(std::vector<T>(std::size_t(size * sizes.of("count")), T(-99)));
+void check(const Function& f, const Case& c, int in_place = -1, const std::vector<int>& teams = {}) {
+  const int w = c.width, h = c.height, count = f.array() ? c.count : 1;
+  std::string letters;  // of the sources
+  for (const char letter : f.form)
+    if (letter != 'a' && letter != 'c') letters += letter;
+  Random random(std::uint32_t(w * 64 + h * 8 + count));
+  // One operand alone has NaNs: which of two goes through is the processor's choice.
+  const int with_nans = random.below(2);
+  Data<T> data;
+  for (const catalog::Operand& o : f.operands) {
+    const int n = (o.constants ? 1 : w * h) * (o.array ? count : 1);
+    data.operands.push_back(o.source ? numbers<T>(n, random, int(data.operands.size()) == with_nans)
+                                     : std::vector<T>(std::size_t(n), T(-99)));
   }
-
-  void check(const Memory& memory, int in_place = -1, const std::vector<int>& teams = {}) const {
-    if (form.minus) check_with(std::minus<T>(), memory, in_place, teams);
-    else check_with(std::plus<T>(), memory, in_place, teams);
-  }
-
-  template <class Op>  // the compiler would make a - b a + -b behind a choice, and turn the sign of a NaN
-  void check_with(Op op, const Memory& memory, int in_place, const std::vector<int>& teams) const {
+  for (const char* name : {"val", "val1", "val2"}) data.values[name] = double(numbers<T>(1, random, with_nans == 1)[0]);
+  with_formula<T>(f, data.values, [&](auto formula) {
     const auto model = [&](const Road&, Data<T>& d, int first, int n) {
-      const auto element = [&](int o, int k, int i, int j) {
-        const Tag& tag = form.tags[o];
-        return d.operands[o][(tag.array ? k : 0) * w * h + (tag.transposed ? j * h + i : i * w + j)];
+      const auto element = [&](std::size_t o, int k, int i, int j) {
+        if (o + 1 == d.operands.size()) return T(d.values.at("val"));
+        if (!f.operands[o].array) k = 0;
+        if (f.operands[o].constants) return d.operands[o][k];
+        return d.operands[o][k * w * h + (letters[o] == 't' ? j * h + i : i * w + j)];
       };
       for (int k = first; k < first + n; ++k)
         for (int i = 0; i < h; ++i)
-          for (int j = 0; j < w; ++j) d.operands[2][(k * h + i) * w + j] = op(element(0, k, i, j), element(1, k, i, j));
+          for (int j = 0; j < w; ++j)
+            d.operands.back()[(k * h + i) * w + j] = formula(element(0, k, i, j), element(1, k, i, j));
       return zelStsOk;
     };
-    expect_model(f, sizes, memory, data, model, in_place, teams, true);
-  }
+    // A sum of products can meet two NaNs.
+    const bool nan_bits = f.row->operation != "Saxpy" && f.row->operation != "LComb";
+    const Sizes sizes = {{{"width", w}, {"height", h}, {"count", count}}};
+    expect_model(f, sizes, c.memory, data, model, in_place, teams, nan_bits);
+  });
+}
 
-  const Function& f;
-  Form form;
-  int w, h;
-  Sizes sizes;
-  Data<T> data;
+struct Combine : FunctionTest {
+  /// Every n-th case for which body(case, its number) is true.
+  template <class Body>
+  void each(int step, Body body) {
+    const std::vector<Case> all = cases(f);
+    for (int c = 0; c < int(all.size()) && !HasFailure(); c += step) body(all[std::size_t(c)]);
+  }
 };
 
-constexpr std::pair<int, int> kMatrices[] = {{1, 1}, {2, 2},   {3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 7}, {8, 8},
-                                             {9, 9}, {12, 12}, {3, 4}, {6, 5}, {2, 5}, {7, 3}, {1, 4}, {4, 1}};
-constexpr std::pair<int, int> kVectors[] = {{1, 1}, {2, 1}, {3, 1}, {4, 1},  {5, 1},  {6, 1},
-                                            {7, 1}, {8, 1}, {9, 1}, {16, 1}, {33, 1}, {100, 1}};
-constexpr int kCounts[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 17, 64};
-
-/// body(width, height, serial number) for the sizes of a form.
-template <class Body>
-void for_sizes(const Form& form, Body body) {
-  int n = 0;
-  if (form.vector())
-    for (const auto& [w, h] : kVectors) body(w, h, n++);
-  else
-    for (const auto& [w, h] : kMatrices) body(w, h, n++);
-}
-
-struct Combine : FunctionTest {};
-
-TEST_P(Combine, EverySizeInEveryMemory) {
-  typed([&](auto t) {
-    const Form form(f);
-    int turn = 0;
-    for_sizes(form, [&](int w, int h, int) {
-      for (const Memory& memory : memories()) {
-        const int count = kCounts[std::size_t(turn++ * 4) % std::size(kCounts)];
-        Combination<decltype(t)>(f, w, h, count).check(memory);
-        if (HasFailure()) return;
-      }
-    });
-  });
-}
-
-TEST_P(Combine, EveryCount) {
-  typed([&](auto t) {
-    const Form form(f);
-    if (!form.array()) return;
-    int turn = 0;
-    for_sizes(form, [&](int w, int h, int) {
-      if (w > 6 || w * h > 36) return;
-      for (const int count : kCounts) {
-        const Combination<decltype(t)> c(f, w, h, count);
-        c.check(memories()[0]);
-        c.check(memories()[std::size_t(turn++) % memories().size()]);
-        if (HasFailure()) return;
-      }
-    });
-  });
+TEST_P(Combine, EverySizeMemoryAndCount) {
+  typed([&](auto t) { each(1, [&](const Case& c) { check<decltype(t)>(f, c); }); });
 }
 
 TEST_P(Combine, InPlace) {
-  typed([&](auto t) {
-    const Form form(f);
-    for_sizes(form, [&](int w, int h, int n) {
-      for (int source = 0; source < 2; ++source) {
-        const Tag& tag = form.tags[source];
-        if (tag.transposed || tag.array != form.array()) continue;
-        for (int m = n % 3; m < int(memories().size()); m += 3)
-          Combination<decltype(t)>(f, w, h, kCounts[(n + m) % 15]).check(memories()[m], source);
-      }
-    });
-  });
+  for (int source = 0; source + 1 < int(f.operands.size()); ++source) {
+    const catalog::Operand& o = f.operands[std::size_t(source)];
+    if (o.transposed || o.constants || o.array != f.array()) continue;
+    typed([&](auto t) { each(5, [&](const Case& c) { check<decltype(t)>(f, c, source); }); });
+  }
 }
 
 TEST_P(Combine, Teams) {
   if (f.driver().empty()) return;
   typed([&](auto t) {
-    int turn = 0;
-    const Form form(f);
-    for (const auto& [w, h] : {std::pair{3, 3}, {4, 4}, {2, 5}})
-      for (int count = 1; count <= 13; count += 1 + (turn % 2))
-        Combination<decltype(t)>(f, w, form.vector() ? 1 : h, count)
-            .check(memories()[std::size_t(turn++) % memories().size()], -1, {1, 2, 3, 5});
+    each(7, [&](const Case& c) {
+      if (c.width <= 4 && c.count <= 13) check<decltype(t)>(f, c, -1, {1, 2, 3, 5});
+    });
+  });
+}
+
+/// A single vector whose operands begin anywhere in the same memory: the loop from the first element to the last counts.
+TEST_P(Combine, OverlapOfSingleVectors) {
+  if (f.array() || f.operands[0].matrix) return;
+  typed([&](auto t) {
+    using T = decltype(t);
+    constexpr int widths[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 16, 33, 100};
+    const Values constants = {{"val", .75}, {"val1", -.5}, {"val2", .625}};
+    Random random(1);
+    for (int turn = 0; turn < 2000 && !HasFailure(); ++turn) {
+      const int width = widths[turn % 12], last = int(f.operands.size()) - 1;
+      const std::vector<T> before = random.uniforms<T>(600);
+      std::vector<T> want = before, got;
+      int first[3], step[3];
+      std::vector<T*> tables[3];
+      const bool dense = random.below(2) == 0;
+      for (int o = 0; o <= last; ++o) first[o] = random.below(2 * width), step[o] = dense ? 1 : 1 + random.below(3);
+      with_formula<T>(f, constants, [&](auto formula) {
+        for (int j = 0; j < width; ++j)
+          want[first[last] + j * step[last]] =
+              formula(want[first[0] + j * step[0]], last == 1 ? T(.75) : want[first[1] + j * step[1]]);
+      });
+      const auto run = [&](const std::string& name, const catalog::Kernel* kernel) {
+        got = before;
+        std::vector<Value> values;
+        for (const catalog::Argument& a : f.arguments) {
+          if (kernel && !kernel->takes(a)) continue;
+          Value v;
+          if (a.kind == catalog::Kind::value) v.x = constants.at(a.name);
+          else if (a.kind == catalog::Kind::pointer) v.p = &got[first[a.operand]];
+          else
+            v.i = a.kind == catalog::Kind::size ? width : a.kind == catalog::Kind::shift ? 0 : step[a.operand] * int(sizeof(T));
+          if (a.type.ends_with("const*")) {
+            for (int j = 0; j < width; ++j) tables[a.operand].push_back(&got[first[a.operand] + j * step[a.operand]]);
+            v.p = tables[a.operand].data();
+          }
+          values.push_back(v);
+        }
+        EXPECT_EQ(find(name).call(values.data()), zelStsOk);
+        EXPECT_EQ(got, want) << name << ", width " << width << ", destination at " << first[last] << ", sources at " << first[0]
+                             << " and " << first[1] << ", dense " << dense;
+      };
+      run(f.exported(), nullptr);
+      for (const catalog::Kernel& k : f.kernels)
+        if (dense || !k.contiguous) run(k.symbol, &k);
+    }
   });
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Combine, testing::ValuesIn(family("", "combine")), FunctionTest::name);
 
-// 13 forms of Add and 20 of Sub, 24 of them with an array, in two types.
-TEST(CombineFamily, IsComplete) { EXPECT_EQ(family("", "combine").size(), 2u * (24 * 3 + 9 * 2)); }
+// Of objects 24 forms with an array and 9 without, with constants 14 and 6, linear combinations 5 and 2; in two types.
+TEST(CombineFamily, IsComplete) { EXPECT_EQ(family("", "combine").size(), 2u * ((24 + 14 + 5) * 3 + (9 + 6 + 2) * 2)); }
 
 }  // namespace
 }  // namespace zelm::test

@@ -18,7 +18,11 @@ class Arguments {
   explicit Arguments(const Function& function) : f(function), values(f.arguments.size()) {
     arena.bytes.fill(0x5a);
     std::memset(arena.index, 0, sizeof arena.index);
-    for (int i = 0; i < 9; ++i) arena.table[i] = arena.bytes.data() + 8 * i;
+    std::fill(arena.bytes.begin() + kDst, arena.bytes.end(), 0xa5);
+    for (int i = 0; i < 9; ++i) {
+      arena.table[0][i] = arena.bytes.data() + 8 * i;
+      arena.table[1][i] = arena.bytes.data() + kDst + 8 * i;
+    }
     good = arena;
     for (std::size_t a = 0; a < values.size(); ++a) {
       const std::string& name = f.arguments[a].name;
@@ -30,9 +34,10 @@ class Arguments {
   }
 
   void* pointer(const std::string& name) {
-    if (name.starts_with("pp")) return arena.table;
+    const bool destination = name.find("Dst") != name.npos;
+    if (name.starts_with("pp")) return arena.table[destination];
     if (name.ends_with("Index")) return arena.index;
-    return arena.bytes.data();
+    return arena.bytes.data() + (destination ? kDst : 0);
   }
 
   /// What a check looks at, told by the argument's name: the letter of its step.
@@ -90,9 +95,10 @@ class Arguments {
   std::vector<Value> values;
 
  private:
+  static constexpr int kDst = 1024;  // where destinations begin
   struct Arena {
-    std::array<unsigned char, 2048> bytes;
-    void* table[9];
+    std::array<unsigned char, 2 * kDst> bytes;
+    void* table[2][9];
     int index[6];
   } arena, good;
 };
@@ -165,6 +171,23 @@ TEST(Checks, CasesByHand) {
       {"Add_vav_64f_P", {{"count", 0}, {"src1Stride0", 4}}, zelStsBadStride},
       {"Sub_vva_32f", {{"count", 0}, {"src2Stride0", 2}}, zelStsBadCount},
       {"Add_vava_32f_L", {{"count", 0}, {"width", 0}}, zelStsBadCount},
+      {"Add_vca_32f", {{"valStride0", 0}}, zelStsBadStride},
+      {"Sub_cav_64f_P", {{"valStride0", 4}, {"dstByteShift", 4}}, zelStsBadStride},
+      {"Mul_vaca_32f_L", {{"valByteShift", 0}}, zelStsOk},
+      {"Mul_vaca_64f_L", {{"valByteShift", 4}}, zelStsBadByteShift},
+      {"Mul_vca_32f", {{"pVal", 0}, {"count", 0}}, zelStsNullPointer},
+      {"Copy_ma_32f_SS", {{"count", 0}, {"width", 0}}, zelStsBadSize},
+      {"Copy_ma_32f_SS", {{"count", 1}, {"srcStride0", 0}}, zelStsOk},
+      {"Copy_ma_32f_SS", {{"count", 2}, {"srcStride0", 3}}, zelStsBadStride},
+      {"Copy_ma_32f_SP", {{"count", 1}, {"srcStride0", 0}, {"dstStride0", 3}}, zelStsOk},
+      {"Copy_va_32f_LP", {{"srcByteShift", 2}, {"srcStride2", 2}}, zelStsBadByteShift},
+      {"Copy_va_64f_LP", {{"srcByteShift", 4}, {"srcStride2", 4}}, zelStsBadStride},
+      {"Copy_va_64f_LP", {{"srcByteShift", 4}, {"dstStride0", 4}}, zelStsBadByteShift},
+      {"Extract_m_32f_P", {{"ppSrc", 0}, {"width", 0}}, zelStsBadSize},
+      {"Extract_v_32f_P", {{"ppSrc", 0}, {"width", 0}}, zelStsNullPointer},
+      {"Extract_v_64f_P", {{"ppSrc", 0}, {"width", 0}}, zelStsBadSize},
+      {"LoadIdentity_ma_32f_P", {{"count", 0}, {"dstByteShift", 2}}, zelStsBadByteShift},
+      {"LoadIdentity_ma_64f_P", {{"count", 0}, {"dstByteShift", 4}}, zelStsBadCount},
       {"LUDecomp_ma_32f", {{"pDstIndex", 0}, {"count", 0}}, zelStsNullPointer},
       {"LUDecomp_ma_64f", {{"widthHeight", 0}, {"dstStride1", 4}}, zelStsBadSize},
       {"LUDecomp_ma_32f_P", {{"srcByteShift", 2}, {"dstStride0", 0}}, zelStsBadStride},

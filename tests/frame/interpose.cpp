@@ -26,6 +26,12 @@ int ownGetFeature(int mask, int reserved) {
   return imports.feature ? *imports.feature : next(mask, reserved);
 }
 
+int zelGetMaxCacheSizeB(int* pSizeByte) {
+  static const auto next = reinterpret_cast<int (*)(int*)>(dlsym(RTLD_NEXT, "zelGetMaxCacheSizeB"));
+  ++imports.cache_asked;
+  return next(pSizeByte);
+}
+
 void* kmpc_malloc(std::size_t size) {
   static const auto next = reinterpret_cast<void* (*)(std::size_t)>(dlsym(RTLD_NEXT, "kmpc_malloc"));
   imports.block_bytes = size;

@@ -1,4 +1,4 @@
-// interpose.hpp: stands between the library and what it imports. The test program defines four of the imported
+// interpose.hpp: stands between the library and what it imports. The test program defines the imported
 // functions itself; they count their calls, answer what a test sets, and else pass on to the companion and to the
 // OpenMP runtime.
 #pragma once
@@ -15,6 +15,7 @@ struct Imports {
   std::atomic<int> blocks{0}, freed{0};     // calls of kmpc_malloc and kmpc_free
   std::atomic<std::size_t> block_bytes{0};  // of the last block
   std::atomic<void*> block{nullptr};
+  std::atomic<int> cache_asked{0};   // calls of zelGetMaxCacheSizeB
   std::atomic<int> feature_mask{0};  // of the last call of ownGetFeature
   std::optional<int> feature;        // its answer
   std::mutex lock;

@@ -1,4 +1,4 @@
-// Arrays beyond 2 GiB: ten objects half a GiB apart, of which only the pages with elements are ever touched.
+// Arrays beyond 2 GiB, and beyond the caches.
 #include <gtest/gtest.h>
 #include <sys/mman.h>
 
@@ -6,11 +6,13 @@
 
 #include "frame/interpose.hpp"
 #include "internals.hpp"
+#include "support/harness.hpp"
 #include "zelm.h"
 
 namespace zelm::test {
 namespace {
 
+/// Ten objects half a GiB apart, of which only the pages with elements are ever touched.
 TEST(LargeArray, IsReachedSeriallyAndByADriver) {
   if (sizeof(void*) == 4) GTEST_SKIP() << "no such arrays in 32 bits";
   constexpr int stride0 = 1 << 29, count = 10, n = 3;
@@ -49,6 +51,50 @@ TEST(LargeArray, IsReachedSeriallyAndByADriver) {
   }
   EXPECT_EQ(imports.asked, 4) << "each driver asks twice";
   munmap(memory, bytes);
+}
+
+/// Where stores may go past the caches: the whole array in one call against the same in calls for 1000 objects.
+TEST(LargeArray, BeyondTheCachesEqualsManySmallOnes) {
+  const Threads one({1});
+  constexpr std::size_t bytes = (64u << 20) + 4096;
+  std::vector<std::uint32_t> sources(bytes / 4 + 16), whole(bytes / 4 + 4), parts(whole);
+  Random random(1);
+  for (auto& word : sources) word = random.next() & 0xbf7fffff;  // as floats and doubles below 2
+  const struct {
+    std::string name;
+    int n;
+  } calls[] = {{"Add_mama_32f", 4},    {"Sub_mam_64f", 4},         {"Add_tam_32f", 6},         {"Mul_vac_32f", 5},
+               {"Add_vca_32f", 3},     {"Saxpy_vav_64f", 5},       {"LComb_vava_32f", 7},      {"Copy_ma_64f_SS", 5},
+               {"Extract_ta_32f", 4},  {"LoadIdentity_ma_32f", 4}, {"LoadIdentity_ma_64f", 3}, {"Transpose_ma_32f", 4},
+               {"Transpose_ma_64f", 6}};
+  for (const auto& [name, order] : calls) {
+    const int n = order;
+    const Function& f = function("zelm" + name);
+    const int E = f.element_size(), row = n * E, size = f.operands[0].matrix ? n * row : row, count = int(bytes / size);
+    const auto call = [&](std::vector<std::uint32_t>& result, int first, int objects) {
+      std::vector<Value> values;
+      for (const catalog::Argument& a : f.arguments) {
+        const bool array = a.operand < 0 || f.operands[a.operand].array,
+                   constants = a.operand >= 0 && f.operands[a.operand].constants;
+        Value v;
+        if (a.kind == catalog::Kind::pointer) {
+          char* const start = reinterpret_cast<char*>(a.source ? &sources[8 * std::size_t(a.operand)] : result.data());
+          v.p = start + (array ? std::ptrdiff_t(first) * (constants ? E : size) : 0);
+        } else if (a.kind == catalog::Kind::stride) {
+          v.i = a.level == 2 || constants ? E : a.level == 1 ? row : size;
+        } else if (a.kind == catalog::Kind::value) {
+          v.x = .75;
+        } else {
+          v.i = a.kind == catalog::Kind::count ? objects : n;
+        }
+        values.push_back(v);
+      }
+      EXPECT_EQ(find(f.exported()).call(values.data()), zelStsOk);
+    };
+    call(whole, 0, count);
+    for (int k = 0; k < count; k += 1000) call(parts, k, std::min(1000, count - k));
+    EXPECT_TRUE(whole == parts) << name << ' ' << n;
+  }
 }
 
 }  // namespace

@@ -11,30 +11,52 @@
 namespace zelm::test {
 namespace {
 
-struct Rule {
-  std::string_view operations, forms;
-  std::int64_t (*cost)(std::int64_t c, std::int64_t w, std::int64_t h);  // of square matrices: w == h
-  std::array<int, 10> limits;                                            // 32f, 32f _S2, _L, _LS2, _P, then those of 64f
-  bool square = false;
-};
+using Cost = std::int64_t (*)(std::int64_t c, std::int64_t w, std::int64_t h);  // vectors: h = 1; square matrices: h = w
+using Limits = std::array<int, 10>;                                             // 32f, 32f _S2, _L, _LS2, _P, then those of 64f
 
-constexpr std::array kMatrix = {3000, 2000, 2000, 2000, 2000, 2000, 2000, 2000, 2000, 2000};
-constexpr std::array kVector = {4801, 4801, 2501, 2501, 1501, 1401, 1401, 2501, 2501, 1501};
-constexpr std::array<int, 10> everywhere(int limit) {
-  std::array<int, 10> all{};
+constexpr Cost kOneSingle = [](auto c, auto w, auto h) { return (2 * c + 1) * w * h; };
+constexpr Cost kThreeArrays = [](auto c, auto w, auto h) { return 3 * c * w * h; };
+constexpr Cost kTwoArrays = [](auto c, auto w, auto h) { return 2 * c * w * h; };
+constexpr Cost kOneAndConstants = [](auto c, auto n, auto) { return c * n + c + n; };
+constexpr Cost kArrayAndConstants = [](auto c, auto n, auto) { return (2 * n + 1) * c; };
+
+constexpr Limits kMatrix = {3000, 2000, 2000, 2000, 2000, 2000, 2000, 2000, 2000, 2000};
+constexpr Limits kVector = {4801, 4801, 2501, 2501, 1501, 1401, 1401, 2501, 2501, 1501};
+constexpr Limits kScale = {2101, 2101, 1201, 1201, 651, 2101, 2101, 1201, 1201, 651};
+constexpr Limits kSaxpy = {3001, 2001, 1501, 1001, 1201, 3001, 1201, 1001, 1001, 1201};
+constexpr Limits kWeighted = {4501, 4501, 4501, 3751, 4501, 4501, 4501, 4501, 4501, 4501};
+constexpr Limits everywhere(int limit) {
+  Limits all{};
   all.fill(limit);
   return all;
 }
+constexpr Limits kNever = everywhere(0);
 
-const Rule kRules[] = {
-    {"Add Sub", "mam mat tam tat", [](auto c, auto w, auto h) { return (2 * c + 1) * w * h; }, kMatrix},
-    {"Sub", "mma mta tma tta", [](auto c, auto w, auto h) { return (2 * c + 1) * w * h; }, kMatrix},
-    {"Add Sub", "mama mata tama tata", [](auto c, auto w, auto h) { return 3 * c * w * h; }, kMatrix},
-    {"Add Sub", "vav vva", [](auto c, auto n, auto) { return (2 * c + 1) * n; }, kVector},
-    {"Add Sub", "vava", [](auto c, auto n, auto) { return 3 * c * n; }, kVector},
-    {"LUDecomp", "ma", [](auto c, auto n, auto) { return c * n * n; }, everywhere(1001), true},
-    {"LUBackSubst", "mva", [](auto c, auto n, auto) { return n * n + 2 * c * n; }, everywhere(701), true},
-    {"LUBackSubst", "mava", [](auto c, auto n, auto) { return (n + 2) * n * c; }, everywhere(1201), true},
+const struct Rule {
+  std::string_view operations, forms;
+  Cost cost;
+  Limits limits;
+} kRules[] = {
+    {"Add Sub", "mam mat tam tat mma mta tma tta", kOneSingle, kMatrix},
+    {"Add Sub", "mama mata tama tata", kThreeArrays, kMatrix},
+    {"Add Sub", "vav vva vac", kOneSingle, kVector},
+    {"Add Sub", "vava", kThreeArrays, kVector},
+    {"Add Sub", "vca cav", kOneAndConstants, kVector},
+    {"Add Sub", "vaca cava", kArrayAndConstants, kVector},
+    {"Sub", "cva", [](auto c, auto, auto) { return 2 * c; }, {4800, 4800, 2500, 2500, 1500, 1400, 1400, 2500, 2500, 1500}},
+    {"Mul", "mac tac", kTwoArrays, {3501, 3501, 3501, 1501, 1701, 3501, 3501, 3501, 3501, 1701}},
+    {"Mul", "vac", kTwoArrays, {2501, 1441, 3601, 1441, 1441, 3601, 1441, 3601, 1441, 1441}},
+    {"Mul", "vca", kOneAndConstants, kScale},
+    {"Mul", "vaca", kArrayAndConstants, kScale},
+    {"Saxpy", "vav", kOneSingle, kSaxpy},
+    {"Saxpy", "vva", kOneSingle, {3001, 2001, 1501, 1501, 1201, 3001, 1201, 1001, 1001, 1201}},
+    {"Saxpy", "vava", kThreeArrays, kSaxpy},
+    {"LComb", "vav", kOneSingle, kWeighted},
+    {"LComb", "vava", kThreeArrays, kWeighted},
+    {"Copy Extract LoadIdentity Transpose", "ma ta va", nullptr, kNever},
+    {"LUDecomp", "ma", [](auto c, auto n, auto) { return c * n * n; }, everywhere(1001)},
+    {"LUBackSubst", "mva", [](auto c, auto n, auto) { return n * n + 2 * c * n; }, everywhere(701)},
+    {"LUBackSubst", "mava", [](auto c, auto n, auto) { return (n + 2) * n * c; }, everywhere(1201)},
 };
 
 const Rule* rule_of(const Function& f) {
@@ -47,13 +69,14 @@ const Rule* rule_of(const Function& f) {
   return nullptr;
 }
 
-/// Calls `name` on objects that all lie in one place: how often it asked, for that many of them, and that large.
+/// Calls `name` on objects that all lie in one place. How often it asked for threads, for that many of them and that
+/// large; for the size of the cache it asked imports.cache_asked times.
 int asked(const std::string& name, int c, int w, int h, bool contiguous) {
   const Function& f = function("zelm" + name);
-  alignas(8) static unsigned char bytes[4096 * 8 + 4096];
+  alignas(8) static unsigned char bytes[2 << 20];
   static int index[4 * 4096];
-  std::fill(std::begin(bytes), std::end(bytes), 0);
-  std::vector<void*> table(4096, bytes);
+  std::fill(bytes, bytes + 40000, 0);
+  static std::vector<void*> table(20000, bytes);
   std::vector<Value> values;
   for (const auto& a : f.arguments) {
     Value v;
@@ -63,12 +86,14 @@ int asked(const std::string& name, int c, int w, int h, bool contiguous) {
     else if (a.name == "count") v.i = c;
     else if (a.name == "height") v.i = h;
     else if (a.name.starts_with("width")) v.i = w;
+    else if (a.kind == catalog::Kind::value) v.x = 0;
     else if (a.name.ends_with("Stride1")) v.i = 64;
     else if (a.name.ends_with("ByteShift")) v.i = 0;
     else v.i = f.element_size() * (a.name.ends_with("Stride2") && !contiguous ? 2 : 1);
     values.push_back(v);
   }
   const Threads one({1});
+  imports.cache_asked = 0;
   find(f.exported()).call(values.data());
   return imports.asked;
 }
@@ -82,19 +107,19 @@ TEST(Limits, EveryArrayFunctionAsksFromItsLimitOn) {
     for (const bool contiguous : {true, false}) {
       if (f.layout == "P" && !contiguous) continue;
       const int column = (f.element == "double" ? 5 : 0) + (f.layout == "P" ? 4 : (f.layout == "L" ? 2 : 0) + !contiguous);
-      const int limit = rule->limits[std::size_t(column)];
-      struct Size {
-        int c, w, h;
-      };
-      for (const Size size : {Size{0, 1, 1}, {0, 2, 2}, {0, 3, 1}, {0, 4, 3}}) {
-        const int h = rule->square ? size.w : size.h;
+      const int limit = f.name == "Sub_vva_64f_P" ? 0 : rule->limits[std::size_t(column)];
+      if (limit == 0) {  // serial, whatever the cost
+        EXPECT_EQ(asked(f.name, 4000, 4, 1, contiguous), 0) << f.name;
+        continue;
+      }
+      for (const auto& [w, height] : {std::pair{1, 1}, {2, 2}, {3, 1}, {4, 3}}) {
+        const int h = f.operands[0].matrix ? height : 1;
         int c = 1;
-        while (rule->cost(c + 1, size.w, h) < limit) ++c;
-        exact += rule->cost(c, size.w, h) == limit - 1;
-        exact += rule->cost(c + 1, size.w, h) == limit;
-        EXPECT_EQ(asked(f.name, c, size.w, h, contiguous), 0) << f.name << " " << c << " " << size.w << " " << h;
-        if (f.name == "Sub_vva_64f_P") EXPECT_EQ(asked(f.name, 4000, size.w, h, contiguous), 0);
-        else EXPECT_GE(asked(f.name, c + 1, size.w, h, contiguous), 1) << f.name << " " << c + 1 << " " << size.w << " " << h;
+        while (rule->cost(c + 1, w, h) < limit) ++c;
+        exact += rule->cost(c, w, h) == limit - 1;
+        exact += rule->cost(c + 1, w, h) == limit;
+        EXPECT_EQ(asked(f.name, c, w, h, contiguous), 0) << f.name << " " << c << " " << w << " " << h;
+        EXPECT_GE(asked(f.name, c + 1, w, h, contiguous), 1) << f.name << " " << c + 1 << " " << w << " " << h;
         ++walked;
       }
     }
@@ -104,15 +129,41 @@ TEST(Limits, EveryArrayFunctionAsksFromItsLimitOn) {
 }
 
 TEST(Limits, CasesByHand) {
-  EXPECT_EQ(asked("Add_mam_32f", 1499, 1, 1, true), 0);     // 2999
-  EXPECT_EQ(asked("Add_mama_32f", 1000, 1, 1, true), 1);    // 3000
-  EXPECT_EQ(asked("Add_mam_32f", 187, 4, 2, true), 1);      // 3000
-  EXPECT_EQ(asked("Add_mam_32f", 999, 1, 1, false), 0);     // 1999
-  EXPECT_EQ(asked("Add_mam_32f", 62, 4, 4, false), 1);      // 2000
+  EXPECT_EQ(asked("Add_mam_32f", 1499, 1, 1, true), 0);   // 2999
+  EXPECT_EQ(asked("Add_mama_32f", 1000, 1, 1, true), 1);  // 3000
+  EXPECT_EQ(asked("Add_mam_32f", 187, 4, 2, true), 1);    // 3000
+  EXPECT_EQ(asked("Add_mam_32f", 999, 1, 1, false), 0);   // 1999
+  EXPECT_EQ(asked("Add_mam_32f", 62, 4, 4, false), 1);    // 2000
+  EXPECT_EQ(asked("Sub_cva_32f", 2399, 3, 1, true), 0);
+  EXPECT_EQ(asked("Sub_cva_32f", 2400, 2, 1, true), 1);
   EXPECT_EQ(asked("LUDecomp_ma_32f", 250, 2, 2, true), 0);  // 1000
   EXPECT_EQ(asked("LUDecomp_ma_32f", 1001, 1, 1, true), 1);
   EXPECT_EQ(asked("Sub_vva_64f_P", 4000, 4, 1, true), 0);  // 32004, and yet always serial
   EXPECT_GE(asked("Sub_vva_32f_P", 4000, 4, 1, true), 1);
+}
+
+/// Transposes ask for the size of the cache above 131072 = 8 * width * height * count, a product that wraps too.
+TEST(Limits, CacheSizeIsAskedForOnTheWayToTheStripsOnly) {
+  const auto queries = [](const std::string& name, int c, int w, int h, bool contiguous = true) {
+    asked(name, c, w, h, contiguous);
+    return imports.cache_asked.load();
+  };
+  for (const std::string name : {"Transpose_ma_32f", "Transpose_ma_32f_L"}) {
+    EXPECT_EQ(queries(name, 16384, 1, 1), 0) << name;
+    EXPECT_EQ(queries(name, 16385, 1, 1), 1) << name;
+    EXPECT_EQ(queries(name, 1024, 4, 4), 0) << name;
+    EXPECT_EQ(queries(name, 1, 128, 128), 0) << name;
+    EXPECT_EQ(queries(name, 1, 129, 128), 1) << name;
+    EXPECT_EQ(queries(name, 2731, 3, 2), 1) << name;
+    for (const int n : {3, 4, 5, 6}) EXPECT_EQ(queries(name, 16385, n, n), 0) << name << n;
+    for (const int n : {2, 7}) EXPECT_EQ(queries(name, 16385, n, n), 1) << name << n;
+    EXPECT_EQ(queries(name, 16385, 2, 2, false), 0) << name;
+    EXPECT_EQ(queries(name, 1, 16384, 16384), 0) << name << ": 2^31 wraps";
+  }
+  for (const char* name : {"Transpose_m_32f", "Transpose_m_32f_P", "Transpose_ma_32f_P", "Transpose_m_64f", "Transpose_ma_64f",
+                           "Transpose_ma_64f_L", "Extract_ta_32f", "Copy_ma_32f_SS"})
+    EXPECT_EQ(queries(name, 16385, 7, 2), 0) << name;
+  EXPECT_EQ(queries("Transpose_m_32f", 1, 200, 200), 0);
 }
 
 /// The first matrix is singular, so that a call for any number of objects ends at once.

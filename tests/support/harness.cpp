@@ -71,17 +71,18 @@ int rounded_to_16(int bytes) { return (bytes + 15) / 16 * 16; }
 
 /// Names the call that touched an unmapped page, and lets the fault happen again as if nobody had listened.
 std::string running;
-struct FaultReport {
-  static inline struct sigaction before;
-  FaultReport() {
+void report_faults() {
+  static struct sigaction before;
+  static const int installed = [] {
     struct sigaction action = {};
     action.sa_handler = [](int) {
       std::fprintf(stderr, "outside its operands: %s\n", running.c_str());
       sigaction(SIGSEGV, &before, nullptr);
     };
-    sigaction(SIGSEGV, &action, &before);
-  }
-};
+    return sigaction(SIGSEGV, &action, &before);
+  }();
+  static_cast<void>(installed);
+}
 
 template <class A>
 Byte* bytes_of(std::vector<A>& v) {
@@ -141,6 +142,26 @@ const std::vector<Memory>& memories() {
   return all;
 }
 
+std::vector<Case> cases(const Function& f, const Sides& larger) {
+  static const Sides matrices = {{1, 1},   {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 7}, {8, 8}, {9, 9},
+                                 {12, 12}, {3, 4}, {6, 5}, {5, 6}, {2, 5}, {7, 3}, {1, 4}, {4, 1}, {33, 5}};
+  static const Sides vectors = {{1, 1}, {2, 1}, {3, 1}, {4, 1},  {5, 1},  {6, 1},
+                                {7, 1}, {8, 1}, {9, 1}, {16, 1}, {33, 1}, {100, 1}};
+  constexpr int counts[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 17, 64};
+  Sides sides = f.operands[0].matrix ? matrices : vectors;
+  sides.insert(sides.end(), larger.begin(), larger.end());
+  std::vector<Case> list;
+  for (const auto& [w, h] : sides) {
+    for (const Memory& memory : memories())
+      list.push_back({w, h, w * h > 200 ? 1 + int(list.size()) % 3 : counts[list.size() * 4 % std::size(counts)], memory});
+    if (w > 6 || h > 6 || !f.array()) continue;
+    for (const int count : counts)
+      for (const std::size_t m : {std::size_t(0), list.size() % memories().size()})
+        list.push_back({w, h, count, memories()[m]});
+  }
+  return list;
+}
+
 Scene::Scene(const Function& function, const Sizes& s, const Memory& m, int source)
     : f(function), sizes(s), memory(m), in_place(source) {
   for (std::size_t o = 0; o < f.operands.size(); ++o) placed.push_back(place(f.operands[o], memory.at(o), int(o)));
@@ -167,6 +188,8 @@ Scene::Placed Scene::place(const catalog::Operand& operand, const Place& where, 
     }
   };
   p.strides = strides();
+  // With one object these functions do not look at the distance to the next.
+  if (n == 1 && f.order.find('G') != f.order.npos) p.strides[0] = std::array{0, 3, E, -1}[std::size_t(r + c) % 4];
   p.shift = operand.store == Store::strided ? 0 : (3 + 2 * index) * E;
   if (operand.store == Store::list) p.objects = Random(n + index).permutation(n);
   if (operand.store == Store::table) p.elements = Random(r * c + index).permutation(r * c);
@@ -259,7 +282,7 @@ ZelStatus Scene::run(const Road& road, Data<T>& data) {
 
   for (Window& w : windows) w.remember();
   use_threads(road.team);
-  static const FaultReport report;
+  report_faults();
   running = describe(road);
   const ZelStatus status = road.call->call(values.data());
   // The results go to the data, and what stood there back to memory, which must then be as it was.

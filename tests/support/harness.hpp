@@ -49,6 +49,14 @@ struct Place {
 using Memory = std::array<Place, 4>;  // operand by operand
 const std::vector<Memory>& memories();
 
+/// Sizes of an element-wise call: every size in every memory, and of the small ones every count besides.
+struct Case {
+  int width, height, count;
+  Memory memory;
+};
+using Sides = std::vector<std::pair<int, int>>;
+std::vector<Case> cases(const Function& f, const Sides& larger = {});
+
 /// What goes into a call and what comes out, as dense arrays: operands object by object and row by row, as stored.
 template <class T>
 struct Data {
