@@ -135,8 +135,7 @@ __attribute__((noinline)) void run_repeated(Op op, const T* a, const Pattern<T>&
       ZELM_UNROLL for (int q = 0; q < Q; ++q) put<streamed>(combined(Pack<T>::load(a + e + q * L), held[q]), d + e + q * L);
     } else {
       ZELM_AS_IT_STANDS for (int q = 0; q < packs; ++q)
-          combined(Pack<T>::load(a + e + q * L), Pack<T>::load_aligned(pattern.elements + q * L))
-              .store(d + e + q * L);
+          put<streamed>(combined(Pack<T>::load(a + e + q * L), Pack<T>::load_aligned(pattern.elements + q * L)), d + e + q * L);
     }
   }
   ZELM_AS_IT_STANDS for (int q = 0; e < n; ++e, ++q) store(d + e, combined(load(a + e), pattern.elements[q]));
