@@ -63,7 +63,7 @@ bool combine_tight(Op op, const A& a, const B& b, const D& d, int rows, int colu
     run(op, Elements{a.first}, Same<T>{b.value}, d.first, size * count);
     return true;
   } else {
-    if (size > Pattern<T>::limit || count < Pattern<T>::L) return false;
+    if (!Pattern<T>::fits(size) || count < Pattern<T>::L) return false;
     if constexpr (A::array) run_repeated<Op, false>(op, a.first, Pattern<T>(b.object(0), rows, columns), d.first, size * count);
     else run_repeated<Op, true>(op, b.first, Pattern<T>(a.object(0), rows, columns), d.first, size * count);
     return true;
@@ -73,7 +73,7 @@ bool combine_tight(Op op, const A& a, const B& b, const D& d, int rows, int colu
 /// Vectors without gaps and a constant for each: N registers hold the vectors of as many objects as a register has lanes, and
 /// each takes its constants from one register by a shuffle.
 template <int N, class Op, class A, class B, class D>
-void combine_constants(Op op, const A& a, const B& b, const D& d, int count) {
+void combine_constants(Op op, A a, B b, D d, int count) {
   using P = Pack<typename D::T>;
   constexpr int L = P::lanes;
   P held[N];
@@ -106,7 +106,7 @@ bool combine_interleaved(Op op, const A& a, const B& b, const D& d, int rows, in
 }
 
 template <int R, int C, class Op, class A, class B, class D>
-void combine_fixed(Op op, const A& a, const B& b, const D& d, int count) {
+void combine_fixed(Op op, A a, B b, D d, int count) {
   const auto first = held<R, C>(a);
   const auto second = held<R, C>(b);
   for (int k = 0; k < count; ++k) {
@@ -130,7 +130,7 @@ void combine_in_order(Op op, const X& x, const Y& y, const Z& z, int i, int colu
 }
 
 template <class Op, class A, class B, class D>
-void combine_any(Op op, const A& a, const B& b, const D& d, int rows, int columns, int count) {
+void combine_any(Op op, A a, B b, D d, int rows, int columns, int count) {
   for (int k = 0; k < count; ++k) {
     const auto x = a.object(k);
     const auto y = b.object(k);

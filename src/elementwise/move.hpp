@@ -13,21 +13,18 @@
 
 namespace zelm::elementwise::move {
 
+struct First {
+  template <class V>
+  ZELM_INLINE V operator()(V a, V) const {
+    return a;
+  }
+};
+
 /// A run of elements. What is long goes to the C library, which knows the processor's fastest way.
 template <class T>
 ZELM_INLINE void copy_run(const T* s, T* d, std::ptrdiff_t n) {
-  constexpr int L = Pack<T>::lanes;
-  if (n * Bytes(sizeof(T)) > 512) {
-    const auto from = reinterpret_cast<std::uintptr_t>(s), to = reinterpret_cast<std::uintptr_t>(d);
-    const std::size_t bytes = std::size_t(n) * sizeof(T);
-    if (from - to >= bytes && to - from >= bytes) {
-      std::memcpy(d, s, bytes);
-      return;
-    }
-  }
-  std::ptrdiff_t e = 0;
-  ZELM_AS_IT_STANDS for (const std::ptrdiff_t end = n / L * L; e < end; e += L) Pack<T>::load(s + e).store(d + e);
-  ZELM_AS_IT_STANDS for (; e < n; ++e) store(d + e, load(s + e));
+  if (n * Bytes(sizeof(T)) > 4096 && Elements{s}.apart(d, n)) std::memcpy(d, s, std::size_t(n) * sizeof(T));
+  else run_packs(First{}, Elements{s}, Same<T>{}, d, n);
 }
 
 template <class T>
@@ -38,13 +35,30 @@ ZELM_INLINE void fill_zero(T* d, int n) {
   ZELM_AS_IT_STANDS for (; e < n; ++e) store(d + e, T(0));
 }
 
-template <int C, class S, class D>
-ZELM_INLINE void copy_rows(const S& s, const D& d, int rows, std::ptrdiff_t count) {
+template <int R, int C, class S, class D>
+void copy_fixed(S s, D d, std::ptrdiff_t count) {
   for (std::ptrdiff_t k = 0; k < count; ++k) {
     const auto from = s.object(k);
     const auto to = d.object(k);
-    ZELM_AS_IT_STANDS for (int i = 0; i < rows; ++i) to.template set_row<C>(i, from.template row<C>(i));
+    ZELM_UNROLL for (int i = 0; i < R; ++i) to.template set_row<C>(i, from.template row<C>(i));
   }
+}
+
+/// The small sizes; false for all others.
+template <class S, class D>
+ZELM_INLINE bool copy_small(S s, D d, int rows, int columns, std::ptrdiff_t count) {
+  if (columns < 3 || columns > 6 || (rows != 1 && rows != columns)) return false;
+  switch (rows == 1 ? -columns : columns) {
+    case -3: copy_fixed<1, 3>(s, d, count); break;
+    case -4: copy_fixed<1, 4>(s, d, count); break;
+    case -5: copy_fixed<1, 5>(s, d, count); break;
+    case -6: copy_fixed<1, 6>(s, d, count); break;
+    case 3: copy_fixed<3, 3>(s, d, count); break;
+    case 4: copy_fixed<4, 4>(s, d, count); break;
+    case 5: copy_fixed<5, 5>(s, d, count); break;
+    case 6: copy_fixed<6, 6>(s, d, count); break;
+  }
+  return true;
 }
 
 /// Calls body(j, number) for the columns four at a time, and with a constant number for the one to three that are left.
@@ -62,9 +76,15 @@ ZELM_INLINE void for_tiles(int columns, Body body) {
 /// Between objects whose rows are runs and objects that are interleaved: as many of them as a register has lanes, in tiles that
 /// are transposed in registers. `gather`: from rows to interleaved elements. Returns the number of objects done.
 template <bool gather, class Rows, class Apart>
-std::ptrdiff_t copy_interleaved(const Rows& by_rows, const Apart& apart, int rows, int columns, std::ptrdiff_t count) {
+std::ptrdiff_t copy_interleaved(Rows by_rows, Apart apart, int rows, int columns, std::ptrdiff_t count) {
   using T = typename Rows::T;
   constexpr int L = Pack<T>::lanes;
+  if constexpr (requires { apart.table; }) {  // element e of the table is element e of an object without gaps, too
+    if (by_rows.row_stride == columns * Bytes(sizeof(T))) {
+      columns *= rows;
+      rows = 1;
+    }
+  }
   std::ptrdiff_t k = 0;
   for (; k + L <= count; k += L) {
     typename Rows::Object objects[L];
@@ -86,7 +106,7 @@ std::ptrdiff_t copy_interleaved(const Rows& by_rows, const Apart& apart, int row
 }
 
 template <class S, class D>
-void copy_objects(const S& s, const D& d, int rows, int columns, std::ptrdiff_t count) {
+void copy_objects(S s, D d, int rows, int columns, std::ptrdiff_t count) {
   constexpr bool from_rows = S::Object::plain, to_rows = D::Object::plain;
   const bool side_by_side = count > 1 && s.interleaved() && d.interleaved();
   std::ptrdiff_t done = 0;
@@ -97,12 +117,7 @@ void copy_objects(const S& s, const D& d, int rows, int columns, std::ptrdiff_t 
   } else if constexpr (from_rows && to_rows) {
     if (count > 1 && s.tight(rows, columns) && d.tight(rows, columns))
       return copy_run(s.object(0).base, d.object(0).base, count * rows * columns);
-    switch (columns) {
-      case 3: return copy_rows<3>(s, d, rows, count);
-      case 4: return copy_rows<4>(s, d, rows, count);
-      case 5: return copy_rows<5>(s, d, rows, count);
-      case 6: return copy_rows<6>(s, d, rows, count);
-    }
+    if (copy_small(s, d, rows, columns, count)) return;
   } else if constexpr (from_rows) {
     if (count > 1 && d.interleaved()) done = copy_interleaved<true>(s, d, rows, columns, count);
   } else if constexpr (to_rows) {
@@ -119,7 +134,7 @@ void copy_objects(const S& s, const D& d, int rows, int columns, std::ptrdiff_t 
 }
 
 template <int N, bool streamed = false, class S, class D>
-void transpose_fixed(const S& s, const D& d, std::ptrdiff_t count) {
+void transpose_fixed(S s, D d, std::ptrdiff_t count) {
   using T = typename D::T;
   // Rows of whole registers can go past the caches, since they all begin at multiples of 16 bytes.
   if constexpr (!streamed && N % Pack<T>::lanes == 0) {
@@ -142,11 +157,26 @@ void transpose_fixed(const S& s, const D& d, std::ptrdiff_t count) {
   if constexpr (streamed) _mm_sfence();
 }
 
+/// 3 x 3 without gaps: nine elements in two registers and one.
+inline void transpose_packed(const float* s, float* d, std::ptrdiff_t count) {
+  for (; count > 0; --count, s += 9, d += 9) {
+    const __m128 a = _mm_loadu_ps(s), b = _mm_loadu_ps(s + 4), last = _mm_load_ss(s + 8);  // 0 1 2 3, 4 5 6 7, 8
+    const __m128 e6e1 = shuffle<0x5a>(b, a), e2e5 = shuffle<0x5a>(a, b);
+    _mm_storeu_ps(d, shuffle<0x8c>(a, e6e1));      // 0 3 6 1
+    _mm_storeu_ps(d + 4, shuffle<0x8c>(b, e2e5));  // 4 7 2 5
+    _mm_store_ss(d + 8, last);
+  }
+}
+
 /// Object of height x width to object of width x height.
 template <class S, class D>
-void transpose_objects(const S& s, const D& d, int width, int height, std::ptrdiff_t count) {
+void transpose_objects(S s, D d, int width, int height, std::ptrdiff_t count) {
   if constexpr (S::Object::plain && D::Object::plain) {
     if (width == height) {
+      if constexpr (std::is_same_v<typename D::T, float>) {
+        if (width == 3 && count > 1 && s.tight(3, 3) && d.tight(3, 3))
+          return transpose_packed(s.object(0).base, d.object(0).base, count);
+      }
       switch (width) {
         case 3: return transpose_fixed<3>(s, d, count);
         case 4: return transpose_fixed<4>(s, d, count);
@@ -203,15 +233,37 @@ ZelStatus extract(S s, typename S::T* pDst, int width, int count) {
   return extract(s, pDst, width, 1, count);
 }
 
-template <bool streamed, class T>
+/// The pattern again and again, from Q registers; Q = 0: from memory.
+template <int Q, bool streamed, class T>
 void fill_repeated(const Pattern<T>& pattern, T* d, std::ptrdiff_t n) {
   constexpr int L = Pack<T>::lanes;
-  const std::ptrdiff_t period = pattern.packs * L;
+  const int packs = Q > 0 ? Q : pattern.packs;
+  Pack<T> held[std::max(Q, 1)];
+  ZELM_UNROLL for (int q = 0; q < Q; ++q) held[q] = Pack<T>::load_aligned(pattern.elements + q * L);
   std::ptrdiff_t e = 0;
-  ZELM_AS_IT_STANDS for (; e + period <= n; e += period) ZELM_AS_IT_STANDS for (int q = 0; q < pattern.packs; ++q)
-      put<streamed>(Pack<T>::load_aligned(pattern.elements + q * L), d + e + q * L);
+  ZELM_AS_IT_STANDS for (const std::ptrdiff_t period = packs * L; e + period <= n; e += period) {
+    if constexpr (Q > 0) {
+      ZELM_UNROLL for (int q = 0; q < Q; ++q) put<streamed>(held[q], d + e + q * L);
+    } else {
+      ZELM_AS_IT_STANDS for (int q = 0; q < packs; ++q)
+          put<streamed>(Pack<T>::load_aligned(pattern.elements + q * L), d + e + q * L);
+    }
+  }
   ZELM_AS_IT_STANDS for (int q = 0; e < n; ++e, ++q) store(d + e, pattern.elements[q]);
   if constexpr (streamed) _mm_sfence();
+}
+
+template <class T>
+void fill_repeated(const Pattern<T>& pattern, T* d, std::ptrdiff_t n) {
+  if (worth_streaming(d, n)) return fill_repeated<0, true>(pattern, d, n);
+  switch (pattern.packs) {
+    case 4: return fill_repeated<4, false>(pattern, d, n);    // 4 x 4 float
+    case 8: return fill_repeated<8, false>(pattern, d, n);    // 4 x 4 double
+    case 9: return fill_repeated<9, false>(pattern, d, n);    // 3 x 3, 6 x 6 float
+    case 18: return fill_repeated<18, false>(pattern, d, n);  // 6 x 6 double
+    case 25: return fill_repeated<25, false>(pattern, d, n);  // 5 x 5
+    default: return fill_repeated<0, false>(pattern, d, n);
+  }
 }
 
 template <class T>
@@ -227,10 +279,9 @@ ZelStatus load_identity(D d, int width, int height, int count) {
   with_adjacent(d, [&](auto to) {
     if constexpr (to.plain) {
       const std::ptrdiff_t size = std::ptrdiff_t(width) * height, n = size * count;
-      if (count > 1 && size <= Pattern<T>::limit && to.tight(height, width)) {
+      if (count > 1 && Pattern<T>::fits(size) && to.tight(height, width)) {
         const Pattern<T> pattern(IdentityObject<T>{}, height, width);
-        return worth_streaming(to.first, n) ? fill_repeated<true>(pattern, to.first, n)
-                                            : fill_repeated<false>(pattern, to.first, n);
+        return fill_repeated(pattern, to.first, n);
       }
     }
     for (int k = 0; k < count; ++k) {

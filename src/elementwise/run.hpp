@@ -100,15 +100,17 @@ __attribute__((noinline)) void run(Op op, A a, B b, T* d, std::ptrdiff_t n) {
 template <class T>
 struct Pattern {
   static constexpr int L = Pack<T>::lanes;
-  static constexpr int limit = 36;  // elements, 6 x 6: the largest of the small sizes
-  alignas(16) T elements[L * limit];
+  static constexpr std::ptrdiff_t capacity = 144;  // elements: four copies of 6 x 6, the largest of the small sizes
+  alignas(16) T elements[capacity];
   int packs;
+
+  static bool fits(std::ptrdiff_t size) { return copies_of(size) * size <= capacity; }
+  static std::ptrdiff_t copies_of(std::ptrdiff_t size) { return size % L == 0 ? 1 : size % 2 == 0 ? L / 2 : L; }
 
   template <class Object>
   Pattern(const Object& object, int rows, int columns) {
     const int size = rows * columns;
-    int copies = 1;
-    while (copies * size % L != 0) copies *= 2;
+    const int copies = int(copies_of(size));
     packs = copies * size / L;
     int filled = 0;
     for (int c = 0; c < copies; ++c) {

@@ -35,18 +35,21 @@ void p8_ownm_Transpose_32s(const std::int32_t* pSrc, int srcStride1, std::int32_
 
 void p8_owniTranspose_32s_asm(const std::int32_t* pSrc, int srcStride1, std::int32_t* pDst, int dstStride1, int width,
                               int rows) {
+  constexpr int kBand = 16;  // columns: a cache line of every source row
   const int bands = width / 4 * 4, blocks = rows / 4 * 4;
-  for (int j = 0; j < bands; j += 4) {
+  for (int band = 0; band < bands; band += kBand) {
     for (int i = 0; i < blocks; i += 4) {
-      P tile[4];
-      ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[l] =
-          P::load(reinterpret_cast<const float*>(moved(pSrc, Bytes(i + l) * srcStride1) + j));
-      zelm::transpose(tile);
-      ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[l].store(
-          reinterpret_cast<float*>(moved(pDst, Bytes(j + l) * dstStride1) + i));
+      for (int j = band; j < std::min(band + kBand, bands); j += 4) {
+        P tile[4];
+        ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[l] =
+            P::load(reinterpret_cast<const float*>(moved(pSrc, Bytes(i + l) * srcStride1) + j));
+        zelm::transpose(tile);
+        ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[l].store(
+            reinterpret_cast<float*>(moved(pDst, Bytes(j + l) * dstStride1) + i));
+      }
     }
-    transpose_plain(pSrc, srcStride1, pDst, dstStride1, j, j + 4, blocks, rows);
   }
+  transpose_plain(pSrc, srcStride1, pDst, dstStride1, 0, bands, blocks, rows);
   transpose_plain(pSrc, srcStride1, pDst, dstStride1, bands, width, 0, rows);
 }
 
