@@ -130,7 +130,7 @@ void combine_in_order(Op op, const X& x, const Y& y, const Z& z, int i, int colu
 }
 
 template <class Op, class A, class B, class D>
-void combine_any(Op op, A a, B b, D d, int rows, int columns, int count) {
+__attribute__((noinline)) void combine_any(Op op, A a, B b, D d, int rows, int columns, int count) {
   for (int k = 0; k < count; ++k) {
     const auto x = a.object(k);
     const auto y = b.object(k);

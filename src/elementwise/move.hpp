@@ -20,10 +20,10 @@ struct First {
   }
 };
 
-/// A run of elements. What is long goes to the C library, which knows the processor's fastest way.
+/// A long run of elements, left to the C library, which knows the processor's fastest way.
 template <class T>
 ZELM_INLINE void copy_run(const T* s, T* d, std::ptrdiff_t n) {
-  if (n * Bytes(sizeof(T)) > 4096 && Elements{s}.apart(d, n)) std::memcpy(d, s, std::size_t(n) * sizeof(T));
+  if (Elements{s}.apart(d, n)) std::memcpy(d, s, std::size_t(n) * sizeof(T));
   else run_packs(First{}, Elements{s}, Same<T>{}, d, n);
 }
 
@@ -35,8 +35,10 @@ ZELM_INLINE void fill_zero(T* d, int n) {
   ZELM_AS_IT_STANDS for (; e < n; ++e) store(d + e, T(0));
 }
 
+// Loops of their own, which need all registers: inlined into the choice between them they would share them.
+
 template <int R, int C, class S, class D>
-void copy_fixed(S s, D d, std::ptrdiff_t count) {
+__attribute__((noinline)) void copy_fixed(S s, D d, std::ptrdiff_t count) {
   for (std::ptrdiff_t k = 0; k < count; ++k) {
     const auto from = s.object(k);
     const auto to = d.object(k);
@@ -105,6 +107,36 @@ std::ptrdiff_t copy_interleaved(Rows by_rows, Apart apart, int rows, int columns
   return k;
 }
 
+template <class S, class D, class CopyRow>
+__attribute__((noinline)) void copy_rows(S s, D d, int rows, std::ptrdiff_t first, std::ptrdiff_t count, CopyRow copy_row) {
+  for (std::ptrdiff_t k = first; k < count; ++k) {
+    const auto from = s.object(k);
+    const auto to = d.object(k);
+    ZELM_AS_IT_STANDS for (int i = 0; i < rows; ++i) copy_row(from, to, i);
+  }
+}
+
+template <class S, class D>
+void copy_any(S s, D d, int rows, int columns, std::ptrdiff_t first, std::ptrdiff_t count) {
+  using T = typename D::T;
+  if constexpr (S::Object::plain && D::Object::plain) {
+    constexpr int kLong = 4096 / sizeof(T);  // where the call costs less than it saves
+    if (columns > kLong) {
+      copy_rows(s, d, rows, first, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
+        copy_run(from.at(i, 0), to.at(i, 0), columns);
+      });
+    } else {
+      copy_rows(s, d, rows, first, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
+        run_packs(First{}, Elements{from.at(i, 0)}, Same<T>{}, to.at(i, 0), columns);
+      });
+    }
+  } else {
+    copy_rows(s, d, rows, first, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
+      ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) zelm::store(to.at(i, j), from.element(i, j));
+    });
+  }
+}
+
 template <class S, class D>
 void copy_objects(S s, D d, int rows, int columns, std::ptrdiff_t count) {
   constexpr bool from_rows = S::Object::plain, to_rows = D::Object::plain;
@@ -123,14 +155,7 @@ void copy_objects(S s, D d, int rows, int columns, std::ptrdiff_t count) {
   } else if constexpr (to_rows) {
     if (count > 1 && s.interleaved()) done = copy_interleaved<false>(d, s, rows, columns, count);
   }
-  for (std::ptrdiff_t k = done; k < count; ++k) {
-    const auto from = s.object(k);
-    const auto to = d.object(k);
-    for (int i = 0; i < rows; ++i) {
-      if constexpr (from_rows && to_rows) copy_run(from.at(i, 0), to.at(i, 0), columns);
-      else ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) store(to.at(i, j), load(from.at(i, j)));
-    }
-  }
+  copy_any(s, d, rows, columns, done, count);
 }
 
 template <int N, bool streamed = false, class S, class D>
