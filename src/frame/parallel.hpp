@@ -45,14 +45,6 @@ inline bool serial(int count) {
   return threads <= 1 || count < threads;
 }
 
-/// The driver of families whose kernels cannot fail.
-template <class Kernel>
-ZelStatus divide(int count, Kernel kernel) {
-  if (serial(count)) return kernel(0, count);
-  run(std::max(ownGetNumThreads(), 1), count, [&](int first, int n, int) { kernel(first, n); });
-  return zelStsOk;
-}
-
 /// Keeps the first failure that arrives. One unnamed critical section serves all calls of the process: it is held for a few
 /// instructions once per thread and call.
 inline void merge(ZelStatus& status, ZelStatus arrived) {
@@ -60,20 +52,24 @@ inline void merge(ZelStatus& status, ZelStatus arrived) {
   if (status == zelStsOk) status = arrived;
 }
 
-/// The driver of families that report: the failure that reaches the critical section first is returned.
+// The regions stand apart from the drivers: what a region shares lives in memory from its function's start, and a driver that
+// stays serial should not put its arguments there.
+
 template <class Kernel>
-ZelStatus divide_merging(int count, Kernel kernel) {
-  if (serial(count)) return kernel(0, count);
+__attribute__((noinline)) void fork(int count, Kernel kernel) {
+  run(std::max(ownGetNumThreads(), 1), count, [&](int first, int n, int) { kernel(first, n); });
+}
+
+template <class Kernel>
+__attribute__((noinline)) ZelStatus fork_merging(int count, Kernel kernel) {
   ZelStatus status = zelStsOk;
   run(std::max(ownGetNumThreads(), 1), count, [&](int first, int n, int) { merge(status, kernel(first, n)); });
   return status;
 }
 
-/// The same with scratch: the caller's buffer where the call stays serial, else a slice for each thread out of one block of the
-/// runtime's allocator. The team is never larger than the block was sized for.
+/// The team is never larger than the block of scratch was sized for.
 template <class Kernel>
-ZelStatus divide_with_scratch(int count, void* buffer, std::size_t bytes, Kernel kernel) {
-  if (serial(count)) return kernel(0, count, buffer);
+__attribute__((noinline)) ZelStatus fork_with_scratch(int count, std::size_t bytes, Kernel kernel) {
   const int team = std::max(ownGetNumThreads(), 1);
   char* const block = static_cast<char*>(kmpc_malloc(bytes * std::size_t(team)));
   ZelStatus status = zelStsOk;
@@ -81,6 +77,29 @@ ZelStatus divide_with_scratch(int count, void* buffer, std::size_t bytes, Kernel
       [&](int first, int n, int t) { merge(status, kernel(first, n, static_cast<void*>(block + bytes * std::size_t(t)))); });
   kmpc_free(block);
   return status;
+}
+
+/// The driver of families whose kernels cannot fail.
+template <class Kernel>
+ZelStatus divide(int count, Kernel kernel) {
+  if (serial(count)) return kernel(0, count);
+  fork(count, kernel);
+  return zelStsOk;
+}
+
+/// The driver of families that report: the failure that reaches the critical section first is returned.
+template <class Kernel>
+ZelStatus divide_merging(int count, Kernel kernel) {
+  if (serial(count)) return kernel(0, count);
+  return fork_merging(count, kernel);
+}
+
+/// The same with scratch: the caller's buffer where the call stays serial, else a slice for each thread out of one block of the
+/// runtime's allocator.
+template <class Kernel>
+ZelStatus divide_with_scratch(int count, void* buffer, std::size_t bytes, Kernel kernel) {
+  if (serial(count)) return kernel(0, count, buffer);
+  return fork_with_scratch(count, bytes, kernel);
 }
 
 }  // namespace zelm::parallel
