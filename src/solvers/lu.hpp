@@ -126,14 +126,14 @@ ZELM_INLINE void store_order(const Pack<float> (&entries)[N], int* order) {
   }
 }
 
-template <int N, class A, class D>
+template <int N, bool beside, class A, class D>
 ZelStatus decompose_fixed(A a, int* index, D d, int count) {
   using T = typename A::T;
   constexpr int L = Pack<T>::lanes;
   std::ptrdiff_t k = 0;
   for (; k + L <= count; k += L) {
     Elimination<T, N, false> f;
-    f.w.load(a, k, L);
+    f.w.template load<beside>(a, k, L);
     f.run();
     if (lane_bits(f.singular)) return decompose_some<N>(a, index, d, k, L);
     // The row order goes to the index array and comes back as addresses: without the barrier the compiler takes each entry out
@@ -150,13 +150,18 @@ ZelStatus decompose_fixed(A a, int* index, D d, int count) {
   return k < count ? decompose_some<N>(a, index, d, k, int(count - k)) : zelStsOk;
 }
 
+template <int N, class A, class D>
+ZELM_INLINE ZelStatus decompose_small(A a, int* index, D d, int count) {
+  return a.interleaved() ? decompose_fixed<N, true>(a, index, d, count) : decompose_fixed<N, false>(a, index, d, count);
+}
+
 template <class A, class D>
 ZELM_INLINE ZelStatus decompose(A a, int* index, D d, int order, int count) {
   switch (order) {
-    case 3: return decompose_fixed<3>(a, index, d, count);
-    case 4: return decompose_fixed<4>(a, index, d, count);
-    case 5: return decompose_fixed<5>(a, index, d, count);
-    case 6: return decompose_fixed<6>(a, index, d, count);
+    case 3: return decompose_small<3>(a, index, d, count);
+    case 4: return decompose_small<4>(a, index, d, count);
+    case 5: return decompose_small<5>(a, index, d, count);
+    case 6: return decompose_small<6>(a, index, d, count);
   }
   for (std::ptrdiff_t k = 0; k < count; ++k)
     if (const ZelStatus status = decompose_core(a.object(k), index + k * order, d.object(k), order)) return status;
@@ -184,7 +189,7 @@ ZELM_INLINE void substitute(P (&x)[N], Factor factor, ByPivot by_pivot) {
 }
 
 /// Every vector with a matrix of its own, or one vector: division by the pivots.
-template <int N, class A, class B, class D>
+template <int N, bool beside, class A, class B, class D>
 void solve_each(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
@@ -203,7 +208,7 @@ void solve_each(A a, const int* index, B b, D d, int count) {
     }
     substitute<N>(
         x.e[0], [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v / f.e[i][i]; });
-    x.store(d, k, valid);
+    x.template store<beside>(d, k, valid);
   });
 }
 
@@ -271,7 +276,7 @@ struct InverseFactors {
 };
 
 /// Many vectors with one matrix; apply(x) solves for the vectors in the lanes of x, which come in pivot order.
-template <int N, class B, class D, class Apply>
+template <int N, bool beside, class B, class D, class Apply>
 ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply apply) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
@@ -282,10 +287,10 @@ ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply appl
     for (int i = 0; i < N; ++i) order[i] = load(index + i);
     for_blocks<L>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
       Lanes<T, 1, N> natural, x;
-      natural.load(b, k, valid);
+      natural.template load<beside>(b, k, valid);
       ZELM_UNROLL for (int i = 0; i < N; ++i) x.e[0][i] = natural.e[0][order[i]];
       apply(x.e[0]);
-      x.store(d, k, valid);
+      x.template store<beside>(d, k, valid);
     });
   } else {
     // Entries are used as they stand: elsewhere than 0 to N - 1 they are read from memory.
@@ -301,7 +306,7 @@ ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply appl
   }
 }
 
-template <int N, class A, class B, class D>
+template <int N, bool beside, class A, class B, class D>
 void solve_one_matrix(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   const Broadcast<T, N> f(a.object(0), index);
@@ -309,30 +314,36 @@ void solve_one_matrix(A a, const int* index, B b, D d, int count) {
   if constexpr (std::is_same_v<T, float> && A::plain && B::plain && D::plain) {
     if (count > 2) {
       const InverseFactors<T, N> inverse(f);
-      solve_vectors<N>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA { inverse.apply(x); });
+      solve_vectors<N, beside>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA { inverse.apply(x); });
       return;
     }
   }
-  solve_vectors<N>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA {
+  solve_vectors<N, beside>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA {
     substitute<N>(
         x, [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v * f.inverse[i]; });
   });
 }
 
+template <int N, bool beside, class A, class B, class D>
+ZELM_INLINE void solve_fixed(const A& a, const int* index, const B& b, const D& d, int count) {
+  if constexpr (!A::array && B::array) solve_one_matrix<N, beside>(a, index, b, d, count);
+  else solve_each<N, beside>(a, index, b, d, count);
+}
+
 template <int N, class A, class B, class D>
-ZELM_INLINE ZelStatus solve_fixed(const A& a, const int* index, const B& b, const D& d, int count) {
-  if constexpr (!A::array && B::array) solve_one_matrix<N>(a, index, b, d, count);
-  else solve_each<N>(a, index, b, d, count);
+ZELM_INLINE ZelStatus solve_small(const A& a, const int* index, const B& b, const D& d, int count) {
+  if (b.interleaved() || d.interleaved()) solve_fixed<N, true>(a, index, b, d, count);
+  else solve_fixed<N, false>(a, index, b, d, count);
   return zelStsOk;
 }
 
 template <class A, class B, class D>
 ZELM_INLINE ZelStatus solve(A a, const int* index, B b, D d, int order, int count) {
   switch (order) {
-    case 3: return solve_fixed<3>(a, index, b, d, count);
-    case 4: return solve_fixed<4>(a, index, b, d, count);
-    case 5: return solve_fixed<5>(a, index, b, d, count);
-    case 6: return solve_fixed<6>(a, index, b, d, count);
+    case 3: return solve_small<3>(a, index, b, d, count);
+    case 4: return solve_small<4>(a, index, b, d, count);
+    case 5: return solve_small<5>(a, index, b, d, count);
+    case 6: return solve_small<6>(a, index, b, d, count);
   }
   using Sum = std::conditional_t<
       B::array, PairedSum,
