@@ -97,8 +97,6 @@ struct Pack<float> {
 
   // Comparisons give a mask: all bits of a lane set where true, false for a NaN on either side.
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_ps(a.raw, b.raw)}; }
-  friend ZELM_INLINE Pack operator==(Pack a, Pack b) { return {_mm_cmpeq_ps(a.raw, b.raw)}; }
-  friend ZELM_INLINE Pack operator&(Pack a, Pack b) { return {_mm_and_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator|(Pack a, Pack b) { return {_mm_or_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_ps(b.raw, a.raw)}; }
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_ps(no.raw, yes.raw, mask.raw)}; }
@@ -151,8 +149,6 @@ struct Pack<double> {
   friend ZELM_INLINE Pack operator/(Pack a, Pack b) { return {_mm_div_pd(a.raw, b.raw)}; }
 
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_pd(a.raw, b.raw)}; }
-  friend ZELM_INLINE Pack operator==(Pack a, Pack b) { return {_mm_cmpeq_pd(a.raw, b.raw)}; }
-  friend ZELM_INLINE Pack operator&(Pack a, Pack b) { return {_mm_and_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator|(Pack a, Pack b) { return {_mm_or_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_pd(b.raw, a.raw)}; }
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_pd(no.raw, yes.raw, mask.raw)}; }
