@@ -16,6 +16,8 @@ bool contains(string_view list, string_view word) {
   return std::find(all.begin(), all.end(), word) != all.end();
 }
 
+bool covers(string_view list, string_view word) { return list.empty() || contains(list, word); }
+
 /// One operand tag of a form: ma is {'m', array}.
 struct Tag {
   char letter;
@@ -215,10 +217,8 @@ class Builder {
   void find_order() {
     f.order = kDefaultOrder;
     const string_view layout = f.layout.empty() ? "standard" : string_view(f.layout);
-    const string_view type = f.element == "float" ? "32f" : "64f";
     for (const Deviation& d : kDeviations) {
-      const auto covers = [](string_view list, string_view word) { return list.empty() || contains(list, word); };
-      if (contains(d.operations, f.row->operation) && covers(d.forms, f.form) && covers(d.types, type) &&
+      if (contains(d.operations, f.row->operation) && covers(d.forms, f.form) && covers(d.types, type()) &&
           covers(d.layouts, layout)) {
         f.order = d.order;
         return;
@@ -277,14 +277,25 @@ class Builder {
 
   void add_kernels() {
     if (f.fixed || f.row->kernels == Kernels::none) return;
-    const string own = "p8_ownzelm" + f.name;
     if (f.row->kernels == Kernels::one || f.layout == "P") {
-      f.kernels.push_back({own, false});
+      add_kernel(f.layout.empty() ? "" : "_" + f.layout, false);
     } else {
-      f.kernels.push_back({own, true});
-      f.kernels.push_back({f.layout == "L" ? own.substr(0, own.size() - 1) + "LS2" : own + "_S2", false});
+      add_kernel(f.layout.empty() ? "" : "_L", true);
+      add_kernel(f.layout.empty() ? "_S2" : "_LS2", false);
     }
   }
+
+  void add_kernel(const string& path, bool contiguous) {
+    const string kind = type() + path;
+    f.kernels.push_back({"p8_ownzelm" + string(f.row->operation) + "_" + f.form + "_" + kind, contiguous, ""});
+    for (const Variant& v : kVariants)
+      if (v.operation == f.row->operation && covers(v.forms, f.form) && covers(v.kernels, kind)) {
+        f.kernels.back().policy = v.policy;
+        return;
+      }
+  }
+
+  string type() const { return f.element == "double" ? "64f" : "32f"; }
 
   std::vector<Tag> tags;
 };

@@ -35,6 +35,7 @@ struct Operand {
 struct Kernel {
   std::string symbol;
   bool contiguous;
+  std::string policy;  // first template argument of the formula, "" for none
   bool takes(const Argument& a) const { return !(contiguous && a.kind == Kind::stride && a.level == 2); }
 };
 

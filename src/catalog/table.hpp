@@ -337,6 +337,16 @@ inline constexpr Deviation kDeviations[] = {
     {"Copy", "", "", "", "PNCSBG"},
 };
 
+/// Kernels of one family that differ in more than their views: in the order of their sums, in a limit, in the sizes that have a
+/// path of their own. The first entry that covers a kernel gives its formula's first template argument.
+struct Variant {
+  std::string_view operation, forms, kernels, policy;  // kernels: "32f 32f_S2 32f_L 32f_LS2 32f_P 64f ..."; empty: all
+};
+
+inline constexpr Variant kVariants[] = {
+    {},
+};
+
 /// Array functions that stay serial although their kin have a driver.
 inline constexpr std::string_view kSerial[] = {"Sub_vva_64f_P", "CrossProduct_vva_64f_P"};
 

@@ -56,7 +56,12 @@ string formula_call(const Function& f, const Kernel& k) {
     if (argument.operand < 0) add(argument.name);
     else if (argument.operand != last_operand) add(view(f, f.operands[std::size_t(last_operand = argument.operand)], k));
   }
-  return string(f.row->formula) + "(" + call + ")";
+  string formula(f.row->formula);
+  if (!k.policy.empty()) {
+    if (formula.back() == '>') formula.insert(formula.size() - 1, ", " + k.policy);
+    else formula += "<" + k.policy + ">";
+  }
+  return formula + "(" + call + ")";
 }
 
 string kernel(const Function& f, const Kernel& k) {
