@@ -10,9 +10,7 @@ ZELM_INLINE float sum_of_lanes(Pack<float> a) {
   const Pack<float> pairs = a + Pack<float>{_mm_movehl_ps(a.raw, a.raw)};
   return _mm_cvtss_f32(_mm_add_ss(pairs.raw, _mm_movehdup_ps(pairs.raw)));
 }
-ZELM_INLINE double sum_of_lanes(Pack<double> a) {
-  return _mm_cvtsd_f64(_mm_add_sd(a.raw, _mm_unpackhi_pd(a.raw, a.raw)));
-}
+ZELM_INLINE double sum_of_lanes(Pack<double> a) { return _mm_cvtsd_f64(_mm_add_sd(a.raw, _mm_unpackhi_pd(a.raw, a.raw))); }
 
 /// Term k in lane k mod 8: two packs of floats or four of doubles, which are added pairwise before their lanes are.
 template <class T>
