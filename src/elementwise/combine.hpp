@@ -129,8 +129,10 @@ void combine_in_order(Op op, const X& x, const Y& y, const Z& z, int i, int colu
   ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) store(z.at(i, j), op(x.element(i, j), y.element(i, j)));
 }
 
-template <class Op, class A, class B, class D>
+/// Vectors have a loop of their own, whose addresses all stay in registers.
+template <bool vectors, class Op, class A, class B, class D>
 __attribute__((noinline)) void combine_any(Op op, A a, B b, D d, int rows, int columns, int count) {
+  if (vectors) rows = 1;
   for (int k = 0; k < count; ++k) {
     const auto x = a.object(k);
     const auto y = b.object(k);
@@ -157,7 +159,7 @@ template <class Op, class A, class B, class D>
 ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int width, int height, int count) {
   if (combine_tight(op, a, b, d, height, width, count)) return;
   if (combine_interleaved(op, a, b, d, height, width, count)) return;
-  if (width != height || width < 3 || width > 6) combine_any(op, a, b, d, height, width, count);
+  if (width != height || width < 3 || width > 6) combine_any<false>(op, a, b, d, height, width, count);
   else if (width == 3) combine_fixed<3, 3>(op, a, b, d, count);
   else if (width == 4) combine_fixed<4, 4>(op, a, b, d, count);
   else if (width == 5) combine_fixed<5, 5>(op, a, b, d, count);
@@ -193,7 +195,10 @@ ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int 
     case 5: return combine_fixed<1, 5>(op, a, b, d, count);
     case 6: return combine_fixed<1, 6>(op, a, b, d, count);
   }
-  combine_any(op, a, b, d, 1, width, count);
+  if constexpr (A::Object::plain && B::Object::plain && D::Object::plain) {
+    if (width == 16) return combine_fixed<1, 16>(op, a, b, d, count);
+  }
+  combine_any<true>(op, a, b, d, 1, width, count);
 }
 
 /// A constant by value is an operand like any other.

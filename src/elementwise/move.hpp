@@ -20,11 +20,10 @@ struct First {
   }
 };
 
-/// A long run of elements, left to the C library, which knows the processor's fastest way.
+/// A long run of elements, left to the C library, which knows the processor's fastest way. s and d may coincide.
 template <class T>
 ZELM_INLINE void copy_run(const T* s, T* d, std::ptrdiff_t n) {
-  if (Elements{s}.apart(d, n)) std::memcpy(d, s, std::size_t(n) * sizeof(T));
-  else run_packs(First{}, Elements{s}, Same<T>{}, d, n);
+  std::memmove(d, s, std::size_t(n) * sizeof(T));
 }
 
 template <class T>
@@ -49,8 +48,9 @@ __attribute__((noinline)) void copy_fixed(S s, D d, std::ptrdiff_t count) {
 /// The small sizes; false for all others.
 template <class S, class D>
 ZELM_INLINE bool copy_small(S s, D d, int rows, int columns, std::ptrdiff_t count) {
-  if (columns < 3 || columns > 6 || (rows != 1 && rows != columns)) return false;
+  if (rows != 1 && rows != columns) return false;
   switch (rows == 1 ? -columns : columns) {
+    case -16: copy_fixed<1, 16>(s, d, count); break;
     case -3: copy_fixed<1, 3>(s, d, count); break;
     case -4: copy_fixed<1, 4>(s, d, count); break;
     case -5: copy_fixed<1, 5>(s, d, count); break;
@@ -59,6 +59,7 @@ ZELM_INLINE bool copy_small(S s, D d, int rows, int columns, std::ptrdiff_t coun
     case 4: copy_fixed<4, 4>(s, d, count); break;
     case 5: copy_fixed<5, 5>(s, d, count); break;
     case 6: copy_fixed<6, 6>(s, d, count); break;
+    default: return false;
   }
   return true;
 }
@@ -107,8 +108,10 @@ std::ptrdiff_t copy_interleaved(Rows by_rows, Apart apart, int rows, int columns
   return k;
 }
 
-template <class S, class D, class CopyRow>
+/// Vectors have a loop of their own, whose addresses all stay in registers.
+template <bool vectors, class S, class D, class CopyRow>
 __attribute__((noinline)) void copy_rows(S s, D d, int rows, std::ptrdiff_t first, std::ptrdiff_t count, CopyRow copy_row) {
+  if (vectors) rows = 1;
   for (std::ptrdiff_t k = first; k < count; ++k) {
     const auto from = s.object(k);
     const auto to = d.object(k);
@@ -120,18 +123,22 @@ template <class S, class D>
 void copy_any(S s, D d, int rows, int columns, std::ptrdiff_t first, std::ptrdiff_t count) {
   using T = typename D::T;
   if constexpr (S::Object::plain && D::Object::plain) {
-    constexpr int kLong = 4096 / sizeof(T);  // where the call costs less than it saves
+    constexpr int kLong = 256 / sizeof(T);  // where the call costs less than it saves
     if (columns > kLong) {
-      copy_rows(s, d, rows, first, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
+      const auto copy_row = [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
         copy_run(from.at(i, 0), to.at(i, 0), columns);
-      });
+      };
+      if (rows == 1) copy_rows<true>(s, d, rows, first, count, copy_row);
+      else copy_rows<false>(s, d, rows, first, count, copy_row);
     } else {
-      copy_rows(s, d, rows, first, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
+      const auto copy_row = [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
         run_packs(First{}, Elements{from.at(i, 0)}, Same<T>{}, to.at(i, 0), columns);
-      });
+      };
+      if (rows == 1) copy_rows<true>(s, d, rows, first, count, copy_row);
+      else copy_rows<false>(s, d, rows, first, count, copy_row);
     }
   } else {
-    copy_rows(s, d, rows, first, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
+    copy_rows<false>(s, d, rows, first, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
       ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) zelm::store(to.at(i, j), from.element(i, j));
     });
   }
