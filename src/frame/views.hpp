@@ -23,8 +23,9 @@ ZELM_INLINE T* moved(T* p, Bytes bytes) {
   return reinterpret_cast<T*>(reinterpret_cast<Byte*>(p) + bytes);
 }
 
-/// A matrix whose elements lie at fixed distances; of a vector, the one row.
-template <class Element, bool adjacent>
+/// A matrix whose elements lie at fixed distances; of a vector, the one row. `columns`: if not 0, rows of so many elements follow
+/// one another without a gap, and addresses are constants.
+template <class Element, bool adjacent, int columns = 0>
 struct StridedObject {
   using T = std::remove_const_t<Element>;
   static constexpr bool plain = adjacent;  // rows are runs of memory
@@ -33,6 +34,7 @@ struct StridedObject {
   Bytes row_stride, element_stride;
 
   ZELM_INLINE Element* at(int i, int j) const {
+    if constexpr (columns > 0) return base + (std::ptrdiff_t(i) * columns + j);
     return moved(base, i * row_stride + j * (adjacent ? Bytes(sizeof(T)) : element_stride));
   }
   ZELM_INLINE T element(int i, int j) const { return load(at(i, j)); }
@@ -99,17 +101,21 @@ struct ConstantObject {
   }
 };
 
-template <class Element, bool adjacent, bool is_array>
+/// `rows`, `columns`: if not 0, the objects are of this size and without gaps (as_tight).
+template <class Element, bool adjacent, bool is_array, int rows = 0, int columns = 0>
 struct StridedView {
   using T = std::remove_const_t<Element>;
-  using Object = StridedObject<Element, adjacent>;
+  using Object = StridedObject<Element, adjacent, columns>;
   static constexpr bool array = is_array, plain = adjacent, constant = false;
   Element* first;
   Bytes stride0, row_stride, element_stride;
 
-  ZELM_INLINE Object object(std::ptrdiff_t k) const {
-    return {array ? moved(first, k * stride0) : first, row_stride, element_stride};
+  ZELM_INLINE Bytes offset(std::ptrdiff_t k) const {
+    if constexpr (!array) return 0;
+    else if constexpr (columns > 0) return k * Bytes(rows * columns * sizeof(T));
+    else return k * stride0;
   }
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {moved(first, offset(k)), row_stride, element_stride}; }
   /// Objects k, ..., k + valid - 1 and, in the places behind, the last of them. The address of the first is hidden from the
   /// compiler, which would else carry the address of every row of every object along in the loop over k.
   template <int L>
@@ -117,14 +123,18 @@ struct StridedView {
     Object o = object(k);
     __asm__("" : "+r"(o.base));
     ZELM_UNROLL for (int l = 0; l < L; ++l)
-        to[l] = {array ? moved(o.base, (l < valid ? l : valid - 1) * stride0) : o.base, row_stride, element_stride};
+        to[l] = {moved(o.base, offset(l < valid ? l : valid - 1)), row_stride, element_stride};
   }
   ZELM_INLINE StridedView<Element, true, is_array> as_adjacent() const { return {first, stride0, row_stride, sizeof(T)}; }
+  template <int R, int C>
+  ZELM_INLINE StridedView<Element, true, is_array, R, C> as_tight() const {
+    return {first, stride0, row_stride, sizeof(T)};
+  }
   /// True if all elements of all objects form one run of memory without a gap, row by row and object by object.
-  ZELM_INLINE bool tight(int rows, int columns) const {
+  ZELM_INLINE bool tight(int of_rows, int of_columns) const {
     if constexpr (!adjacent) return false;
-    const Bytes row = columns * Bytes(sizeof(T));
-    return (rows == 1 || row_stride == row) && stride0 == rows * row;
+    const Bytes row = of_columns * Bytes(sizeof(T));
+    return (of_rows == 1 || row_stride == row) && stride0 == of_rows * row;
   }
   /// True if equal elements of neighbouring objects lie side by side.
   ZELM_INLINE bool interleaved() const { return array && stride0 == Bytes(sizeof(T)); }

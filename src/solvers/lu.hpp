@@ -330,10 +330,24 @@ ZELM_INLINE void solve_fixed(const A& a, const int* index, const B& b, const D& 
   else solve_each<N, beside>(a, index, b, d, count);
 }
 
+/// Contiguous elements in the standard layout.
+template <class... Views>
+inline constexpr bool all_strided = (Views::plain && ...);
+
 template <int N, class A, class B, class D>
 ZELM_INLINE ZelStatus solve_small(const A& a, const int* index, const B& b, const D& d, int count) {
-  if (b.interleaved() || d.interleaved()) solve_fixed<N, true>(a, index, b, d, count);
-  else solve_fixed<N, false>(a, index, b, d, count);
+  if (b.interleaved() || d.interleaved()) {
+    solve_fixed<N, true>(a, index, b, d, count);
+    return zelStsOk;
+  }
+  if constexpr (all_strided<A, B, D>) {
+    if (A::array && B::array && a.tight(N, N) && b.tight(1, N) && d.tight(1, N)) {
+      solve_fixed<N, false>(a.template as_tight<N, N>(), index, b.template as_tight<1, N>(), d.template as_tight<1, N>(),
+                            count);
+      return zelStsOk;
+    }
+  }
+  solve_fixed<N, false>(a, index, b, d, count);
   return zelStsOk;
 }
 
