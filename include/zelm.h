@@ -986,6 +986,126 @@ ZelStatus zelmMul_mac_64f_L(const double* const* ppSrc, int srcByteShift, int sr
 ZelStatus zelmMul_mac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
+/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mam_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mam_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mam_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mam_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mam_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mam_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mama_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mama_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
+    int width2, int height2, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mama_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mama_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mama_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
+    int width2, int height2, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mama_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mat_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mat_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mat_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mat_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mat_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mat_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mata_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mata_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
+    int width2, int height2, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mata_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mata_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mata_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
+    int width2, int height2, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mata_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
 /** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_mc_32f(const float* pSrc, int srcStride1, int srcStride2, float val, float* pDst, int dstStride1,
     int dstStride2, int width, int height);
@@ -1001,6 +1121,102 @@ ZelStatus zelmMul_mc_64f(const double* pSrc, int srcStride1, int srcStride2, dou
 /** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_mc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
     int dstByteShift, int width, int height);
+
+/** D = A * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mm_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst, int dstStride1,
+    int dstStride2);
+
+/** D = A * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mm_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift);
+
+/** D = A * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mm_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst, int dstStride1,
+    int dstStride2);
+
+/** D = A * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mm_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift);
+
+/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mma_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mma_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mma_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mma_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mma_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mma_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D = A * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mt_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst, int dstStride1,
+    int dstStride2);
+
+/** D = A * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mt_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift);
+
+/** D = A * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mt_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst, int dstStride1,
+    int dstStride2);
+
+/** D = A * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mt_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift);
+
+/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mta_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mta_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mta_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mta_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mta_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_mta_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
 
 /** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_tac_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float val, float* pDst,
@@ -1026,6 +1242,126 @@ ZelStatus zelmMul_tac_64f_L(const double* const* ppSrc, int srcByteShift, int sr
 ZelStatus zelmMul_tac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
+/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tam_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tam_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tam_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tam_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tam_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tam_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tama_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tama_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
+    int width2, int height2, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tama_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tama_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tama_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
+    int width2, int height2, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tama_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tat_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tat_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tat_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tat_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tat_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tat_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tata_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tata_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
+    int width2, int height2, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tata_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tata_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
+    int height1, const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tata_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width1, int height1, const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
+    int width2, int height2, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tata_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
 /** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_tc_32f(const float* pSrc, int srcStride1, int srcStride2, float val, float* pDst, int dstStride1,
     int dstStride2, int width, int height);
@@ -1041,6 +1377,102 @@ ZelStatus zelmMul_tc_64f(const double* pSrc, int srcStride1, int srcStride2, dou
 /** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_tc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
     int dstByteShift, int width, int height);
+
+/** D = A^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tm_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst, int dstStride1,
+    int dstStride2);
+
+/** D = A^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tm_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift);
+
+/** D = A^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tm_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst, int dstStride1,
+    int dstStride2);
+
+/** D = A^T * B; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tm_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift);
+
+/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tma_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tma_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tma_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tma_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tma_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tma_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D = A^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tt_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst, int dstStride1,
+    int dstStride2);
+
+/** D = A^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tt_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift);
+
+/** D = A^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tt_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst, int dstStride1,
+    int dstStride2);
+
+/** D = A^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tt_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift);
+
+/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tta_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tta_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
+    float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tta_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tta_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
+    int dstStride0, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tta_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
+    double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
+
+/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+ZelStatus zelmMul_tta_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
 
 /** d[k](j) = a[k](j) * val; vectors of width elements. */
 ZelStatus zelmMul_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,

@@ -45,6 +45,7 @@ inline constexpr std::string_view kBinary = "src1 src2 dst width height count";
 inline constexpr std::string_view kScaled = "src val dst width height count";
 inline constexpr std::string_view kMatrixShapes = "D height x width; a transposed operand is stored as width x height";
 inline constexpr std::string_view kVectorShapes = "vectors of width elements";
+inline constexpr std::string_view kMulArguments = "src1:width1 width1 height1 src2:width2 width2 height2 dst:product count";
 inline constexpr std::string_view kMulShapes = "sources as stored: height1 x width1, height2 x width2";
 inline constexpr std::string_view kMulVectorShapes = "A height x width as stored; b src2Len elements";
 inline constexpr std::string_view kSquareShapes = "square matrices of order widthHeight";
@@ -125,11 +126,13 @@ inline constexpr Row kRows[] = {
      "D(j, i) = A(i, j) of every object", "source height x width; destination width x height"},
 
     // Products
-    {"Mul", "mm mt tm tt", "src1:width1 width1 height1 src2:width2 width2 height2 dst:product count", "", "", "products", "",
-     "$d = $a * $b", kMulShapes, "", "", "inner"},
-    {"Mul", "mam mat tam tat mama mata tama tata mma mta tma tta",
-     "src1:width1 width1 height1 src2:width2 width2 height2 dst:product count", "product", kProductLimits, "products", "",
-     "$d = $a * $b", kMulShapes, "", "", "inner"},
+    {"Mul", "mm mt tm tt", kMulArguments, "", "", "products", "multiply", "$d = $a * $b", kMulShapes, "", "", "inner"},
+    {"Mul", "mam mat tam tat", kMulArguments, "product", kProductLimits, "products", "multiply", "$d = $a * $b", kMulShapes, "",
+     "", "inner"},
+    {"Mul", "mma mta tma tta", kMulArguments, "product", kProductLimits, "products", "multiply", "$d = $a * $b", kMulShapes, "",
+     "", "inner"},
+    {"Mul", "mama mata tama tata", kMulArguments, "product", kProductLimits, "products", "multiply", "$d = $a * $b", kMulShapes,
+     "", "", "inner"},
     {"Mul", "mv tv", "src1 width height src2 src2Len dst count", "", "", "products", "", "$d = $a * $b", kMulVectorShapes, "",
      "", "inner"},
     {"Mul", "mav tav mava tava mva tva", "src1 width height src2 src2Len dst count", "product", kProductLimits, "products", "",
@@ -337,6 +340,8 @@ inline constexpr Deviation kDeviations[] = {
     {"Copy", "", "", "", "PNCSBG"},
 };
 
+inline constexpr std::string_view kMulForms = "mm mt tm tt mam mat tam tat mma mta tma tta mama mata tama tata";
+
 /// Kernels of one family that differ in more than their views: in the order of their sums, in a limit, in the sizes that have a
 /// path of their own. The first entry that covers a kernel gives its formula's first template argument.
 struct Variant {
@@ -344,7 +349,22 @@ struct Variant {
 };
 
 inline constexpr Variant kVariants[] = {
-    {},
+    // Products of two matrices: order of the sums and the orders of square products that have a path of their own. The gaps are
+    // contract: they decide the rounding.
+    {"Mul", "mata", "64f", "Plain<3, 6>"},
+    {"Mul", "tm", "32f", "Blocked<3, 5>"},
+    {"Mul", "mta tta", "32f_L", "Blocked<0, 0>"},
+    {"Mul", "tta", "64f_L", "Blocked<0, 0>"},
+    {"Mul", kMulForms, "32f 32f_L 64f 64f_L", "Blocked<3, 6>"},
+    {"Mul", "mat", "32f_S2", "Gathering<3, 3>"},
+    {"Mul", "mt mat mta mata", "32f_S2 64f_S2", "Gathering<3, 6>"},
+    {"Mul", "mama", "32f_S2", "Plain<3, 5>"},
+    {"Mul", "tam", "32f_S2", "Plain<3, 3>"},
+    {"Mul", "mam mat tam tat", "32f_LS2", "Plain<3, 3>"},
+    {"Mul", "mat mta mata", "32f_LS2 64f_LS2", "Each<Gathering<3, 6>>"},
+    {"Mul", kMulForms, "32f_LS2 64f_LS2", "Each<Plain<3, 6>>"},
+    {"Mul", "mam mat tam", "32f_P", "Plain<3, 3>"},
+    {"Mul", kMulForms, "", "Plain<3, 6>"},
 };
 
 /// Array functions that stay serial although their kin have a driver.
