@@ -699,6 +699,88 @@ ZelStatus zelmExtract_va_64f_L(const double* const* ppSrc, int srcByteShift, int
 ZelStatus zelmExtract_va_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
     int count);
 
+/* ---- Gaxpy ---- */
+
+/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2, int src3Len, float* pDst,
+    int dstStride2);
+
+/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, const float* const* ppSrc3, int src3ByteShift,
+    int src3Len, float* const* ppDst, int dstByteShift);
+
+/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride2, int src3Len,
+    double* pDst, int dstStride2);
+
+/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, const double* const* ppSrc3, int src3ByteShift,
+    int src3Len, double* const* ppDst, int dstByteShift);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride0,
+    int src3Stride2, int src3Len, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const float* const* ppSrc3,
+    int src3ByteShift, int src3Stride2, int src3Len, float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const float* const* ppSrc3,
+    int src3ByteShift, int src3Stride0, int src3Len, float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride0,
+    int src3Stride2, int src3Len, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const double* const* ppSrc3,
+    int src3ByteShift, int src3Stride2, int src3Len, double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const double* const* ppSrc3,
+    int src3ByteShift, int src3Stride0, int src3Len, double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2,
+    int src3Len, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2,
+    int src3Len, float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const float* const* ppSrc3,
+    int src3ByteShift, int src3Len, float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride2,
+    int src3Len, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const double* pSrc3,
+    int src3Stride2, int src3Len, double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const double* const* ppSrc3,
+    int src3ByteShift, int src3Len, double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
 /* ---- GetLibVersion ---- */
 
 /** the version record of the library; never null. */
@@ -986,6 +1068,66 @@ ZelStatus zelmMul_mac_64f_L(const double* const* ppSrc, int srcByteShift, int sr
 ZelStatus zelmMul_mac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const float* pSrc2, int src2Stride2, int src2Len, float* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift, int dstStride0,
+    int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const double* pSrc2, int src2Stride2, int src2Len, double* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0,
+    int dstStride2, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
+    float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0,
+    int dstStride2, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
+    double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
 /** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_mc_32f(const float* pSrc, int srcStride1, int srcStride2, float val, float* pDst, int dstStride1,
     int dstStride2, int width, int height);
@@ -1001,6 +1143,52 @@ ZelStatus zelmMul_mc_64f(const double* pSrc, int srcStride1, int srcStride2, dou
 /** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_mc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
     int dstByteShift, int width, int height);
+
+/** d = A * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride2);
+
+/** d = A * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift);
+
+/** d = A * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride2);
+
+/** d = A * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
 
 /** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_tac_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float val, float* pDst,
@@ -1026,6 +1214,66 @@ ZelStatus zelmMul_tac_64f_L(const double* const* ppSrc, int srcByteShift, int sr
 ZelStatus zelmMul_tac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const float* pSrc2, int src2Stride2, int src2Len, float* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift, int dstStride0,
+    int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const double* pSrc2, int src2Stride2, int src2Len, double* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0,
+    int dstStride2, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
+    float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0,
+    int dstStride2, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
+    double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
 /** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_tc_32f(const float* pSrc, int srcStride1, int srcStride2, float val, float* pDst, int dstStride1,
     int dstStride2, int width, int height);
@@ -1041,6 +1289,52 @@ ZelStatus zelmMul_tc_64f(const double* pSrc, int srcStride1, int srcStride2, dou
 /** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_tc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
     int dstByteShift, int width, int height);
+
+/** d = A^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride2);
+
+/** d = A^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift);
+
+/** d = A^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride2);
+
+/** d = A^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
 
 /** d[k](j) = a[k](j) * val; vectors of width elements. */
 ZelStatus zelmMul_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
