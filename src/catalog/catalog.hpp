@@ -63,6 +63,11 @@ struct Function {
   int element_size() const { return element == "double" ? 8 : 4; }
   std::string exported() const { return "zelm" + name; }
   std::string entry() const { return "p8_zelm" + name; }
+  /// A driver does without the sizes that its entry has proved equal to others.
+  bool driver_takes(const Argument& a) const { return equal_size(a).empty(); }
+  std::string equal_size(const Argument& a) const {
+    return row->operation != "Gaxpy" ? "" : a.name == "src2Len" ? "width" : a.name == "src3Len" ? "height" : "";
+  }
   std::string driver() const { return cost.empty() ? "" : "p8_ownOMP_zelm" + name; }
   bool contiguous_kernel() const { return kernels.size() == 2; }
   std::string result() const { return row->operation == "GetLibVersion" ? "const ZelLibVersion*" : "ZelStatus"; }

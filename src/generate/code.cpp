@@ -64,6 +64,10 @@ string formula_call(const Function& f, const Kernel& k) {
   return formula + "(" + call + ")";
 }
 
+string driver_parameters(const Function& f) {
+  return joined(f.arguments, ", ", [&](const Argument& a) { return f.driver_takes(a) ? a.type + " " + a.name : string(); });
+}
+
 string kernel(const Function& f, const Kernel& k) {
   return "ZelStatus " + k.symbol + "(" + kernel_parameters(f, k) + ") {\n  return " + formula_call(f, k) + ";\n}\n";
 }
@@ -140,7 +144,7 @@ string entry(const Function& f) {
     string limit = std::to_string(f.limit[choice ? 0 : 1]);
     if (choice && f.limit[0] != f.limit[1]) limit = "(contiguous ? " + limit + " : " + std::to_string(f.limit[1]) + ")";
     out += "  if (int(" + f.cost + ") >= " + limit + ") return " + f.driver() + "(" +
-           names(f, [](const Argument&) { return true; }) + ");\n";
+           names(f, [&](const Argument& a) { return f.driver_takes(a); }) + ");\n";
   }
   if (choice) out += "  if (contiguous) return " + kernel_call(f, f.kernels[0]) + ";\n";
   return out + "  return " + kernel_call(f, f.kernels.back()) + ";\n}\n";
@@ -155,6 +159,7 @@ string stretch_call(const Function& f, const Kernel& k) {
                 [&](const Argument& a) -> string {
                   if (!k.takes(a)) return "";
                   if (a.kind == Kind::count) return "n";
+                  if (!f.driver_takes(a)) return f.equal_size(a);
                   if (a.name == "pBuffer") return "scratch";
                   if (a.operand < 0)
                     return a.per_object.empty() ? a.name : a.name + " + std::ptrdiff_t(first) * " + a.per_object;
@@ -175,7 +180,7 @@ string stretch_call(const Function& f, const Kernel& k) {
 
 string driver(const Function& f) {
   const bool scratch = !f.scratch.empty();
-  string out = "ZelStatus " + f.driver() + "(" + parameters(f) + ") {\n";
+  string out = "ZelStatus " + f.driver() + "(" + driver_parameters(f) + ") {\n";
   if (f.contiguous_kernel()) out += contiguity(f);
   out += scratch             ? "  return parallel::divide_with_scratch(count, pBuffer, " + f.scratch + ", "
          : f.merges_status() ? "  return parallel::divide_merging(count, "
@@ -282,7 +287,7 @@ string unit_declarations(const Unit& unit) {
                "using zelm::Bytes;\n";
   for (const Function* f : unit.functions) {
     out += "ZelStatus " + f->entry() + "(" + parameters(*f) + ");\n";
-    if (!f->driver().empty()) out += "ZelStatus " + f->driver() + "(" + parameters(*f) + ");\n";
+    if (!f->driver().empty()) out += "ZelStatus " + f->driver() + "(" + driver_parameters(*f) + ");\n";
     for (const Kernel& k : f->kernels) out += "ZelStatus " + k.symbol + "(" + kernel_parameters(*f, k) + ");\n";
   }
   return wrapped(out + "}\n");
@@ -331,7 +336,7 @@ string test_calls(const std::vector<Unit>& units) {
   for (const Unit& u : units)
     for (const Function* f : u.functions) {
       add(*f, f->exported(), all);
-      if (!f->driver().empty()) add(*f, f->driver(), all);
+      if (!f->driver().empty()) add(*f, f->driver(), [&](const Argument& a) { return f->driver_takes(a); });
       for (const Kernel& k : f->kernels) add(*f, k.symbol, [&](const Argument& a) { return k.takes(a); });
     }
   return string(kFirstLine) + "#include \"internals.hpp\"\n#include \"support/calls.hpp\"\n#include \"zelm.h\"\n\n" +

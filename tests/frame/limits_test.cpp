@@ -17,6 +17,7 @@ using Limits = std::array<int, 10>;                                             
 constexpr Cost kOneSingle = [](auto c, auto w, auto h) { return (2 * c + 1) * w * h; };
 constexpr Cost kThreeArrays = [](auto c, auto w, auto h) { return 3 * c * w * h; };
 constexpr Cost kTwoArrays = [](auto c, auto w, auto h) { return 2 * c * w * h; };
+constexpr Cost kOneMatrix = [](auto c, auto w, auto h) { return w * h + c * w + c * h; };
 constexpr Cost kOneAndConstants = [](auto c, auto n, auto) { return c * n + c + n; };
 constexpr Cost kArrayAndConstants = [](auto c, auto n, auto) { return (2 * n + 1) * c; };
 
@@ -25,6 +26,8 @@ constexpr Limits kVector = {4801, 4801, 2501, 2501, 1501, 1401, 1401, 2501, 2501
 constexpr Limits kScale = {2101, 2101, 1201, 1201, 651, 2101, 2101, 1201, 1201, 651};
 constexpr Limits kSaxpy = {3001, 2001, 1501, 1001, 1201, 3001, 1201, 1001, 1001, 1201};
 constexpr Limits kWeighted = {4501, 4501, 4501, 3751, 4501, 4501, 4501, 4501, 4501, 4501};
+constexpr Limits kProduct = {2501, 1441, 3601, 1441, 1441, 3601, 1441, 3601, 1441, 1441};
+constexpr Limits kGaxpy = {7001, 5001, 7001, 501, 4501, 5001, 5001, 6001, 5001, 7001};
 constexpr Limits everywhere(int limit) {
   Limits all{};
   all.fill(limit);
@@ -45,7 +48,7 @@ const struct Rule {
     {"Add Sub", "vaca cava", kArrayAndConstants, kVector},
     {"Sub", "cva", [](auto c, auto, auto) { return 2 * c; }, {4800, 4800, 2500, 2500, 1500, 1400, 1400, 2500, 2500, 1500}},
     {"Mul", "mac tac", kTwoArrays, {3501, 3501, 3501, 1501, 1701, 3501, 3501, 3501, 3501, 1701}},
-    {"Mul", "vac", kTwoArrays, {2501, 1441, 3601, 1441, 1441, 3601, 1441, 3601, 1441, 1441}},
+    {"Mul", "vac", kTwoArrays, kProduct},
     {"Mul", "vca", kOneAndConstants, kScale},
     {"Mul", "vaca", kArrayAndConstants, kScale},
     {"Saxpy", "vav", kOneSingle, kSaxpy},
@@ -53,6 +56,12 @@ const struct Rule {
     {"Saxpy", "vava", kThreeArrays, kSaxpy},
     {"LComb", "vav", kOneSingle, kWeighted},
     {"LComb", "vava", kThreeArrays, kWeighted},
+    {"Mul", "mva tva", kOneMatrix, kProduct},
+    {"Mul", "mav", [](auto c, auto w, auto h) { return c * w * h + c * h + w; }, kProduct},
+    {"Mul", "tav", [](auto c, auto w, auto h) { return c * w * h + c * w + h; }, kProduct},
+    {"Mul", "mava tava", [](auto c, auto w, auto h) { return c * w * h + c * w + c * h; }, kProduct},
+    {"Gaxpy", "mva", [](auto c, auto w, auto h) { return (w + 2 * h) * c; }, kGaxpy},
+    {"Gaxpy", "mvav", [](auto c, auto w, auto h) { return c * w + c * h + h; }, kGaxpy},
     {"Copy Extract LoadIdentity Transpose", "ma ta va", nullptr, kNever},
     {"LUDecomp", "ma", [](auto c, auto n, auto) { return c * n * n; }, everywhere(1001)},
     {"LUBackSubst", "mva", [](auto c, auto n, auto) { return n * n + 2 * c * n; }, everywhere(701)},
@@ -86,6 +95,8 @@ int asked(const std::string& name, int c, int w, int h, bool contiguous) {
     else if (a.name == "count") v.i = c;
     else if (a.name == "height") v.i = h;
     else if (a.name.starts_with("width")) v.i = w;
+    else if (a.name == "src2Len") v.i = f.operands[0].transposed ? h : w;
+    else if (a.name == "src3Len") v.i = h;
     else if (a.kind == catalog::Kind::value) v.x = 0;
     else if (a.name.ends_with("Stride1")) v.i = 64;
     else if (a.name.ends_with("ByteShift")) v.i = 0;

@@ -218,7 +218,7 @@ std::vector<Road> Scene::roads(const std::vector<int>& teams) const {
   for (const catalog::Kernel& k : f.kernels)
     if (first || !k.contiguous) list.push_back({&find(k.symbol), &k, true, 1, this});
   if (!f.driver().empty())
-    for (const int team : teams) list.push_back({&find(f.driver()), chosen, false, team, this});
+    for (const int team : teams) list.push_back({&find(f.driver()), chosen, false, team, this, true});
   return list;
 }
 
@@ -267,7 +267,7 @@ ZelStatus Scene::run(const Road& road, Data<T>& data) {
   };
   std::vector<Value> values;
   for (const catalog::Argument& a : f.arguments) {
-    if (road.direct && !road.kernel->takes(a)) continue;
+    if ((road.direct && !road.kernel->takes(a)) || (road.driver && !f.driver_takes(a))) continue;
     Value v;
     if (a.kind == Kind::pointer && a.operand >= 0) v.p = pointers[a.operand];
     else if (a.name == "pBuffer") v.p = put(a, scratch = data.arrays.at(a.name));

@@ -75,6 +75,7 @@ struct Road {
   bool direct;  // the kernel is called by its own name
   int team;     // threads
   const Scene* scene;
+  bool driver = false;  // the driver is called by its own name
 };
 
 /// The operands of a function in memory.

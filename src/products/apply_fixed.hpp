@@ -1,0 +1,243 @@
+// apply_fixed.hpp: dst = op(A) x (+ y) in the sizes 3 to 6, for whole arrays. Three ways through the registers:
+//   in_lanes     lanes are objects: any memory, any sum order
+//   in_columns   lanes are elements of dst: columns of op(A), each scaled by an element of x
+//   in_pairs     lanes are pairs of neighbouring k: even and odd k add up apart, and no element of x is ever shuffled
+// Operands that are no arrays are read once, before the loop over the objects.
+#pragma once
+#include "frame/lanes.hpp"
+#include "products/apply_any.hpp"
+
+namespace zelm::products::apply {
+
+// Sum orders: sum<N>(i, p) adds the products p(0), ..., p(N - 1) of destination element i.
+
+/// ((p0 + p1) + p2) + ...
+struct Ascending {
+  template <int N, class Product>
+  static ZELM_INLINE auto sum(int, Product p) {
+    auto s = p(0);
+    ZELM_UNROLL for (int k = 1; k < N; ++k) s = s + p(k);
+    return s;
+  }
+};
+
+/// ((p0 + p2) + p4) + ((p1 + p3) + p5), from four products on.
+struct EvenOdd {
+  template <int N, class Product>
+  static ZELM_INLINE auto sum(int i, Product p) {
+    if constexpr (N < 4) {
+      return Ascending::sum<N>(i, p);
+    } else {
+      auto even = p(0), odd = p(1);
+      ZELM_UNROLL for (int k = 2; k < N; k += 2) even = even + p(k);
+      ZELM_UNROLL for (int k = 3; k < N; k += 2) odd = odd + p(k);
+      return even + odd;
+    }
+  }
+};
+
+/// EvenOdd, but elements 0 to 3 of five ((p0 + p1) + p4) + (p2 + p3).
+struct Resident {
+  template <int N, class Product>
+  static ZELM_INLINE auto sum(int i, Product p) {
+    if (N == 5 && i < 4) return ((p(0) + p(1)) + p(4)) + (p(2) + p(3));
+    return EvenOdd::sum<N>(i, p);
+  }
+};
+
+/// ((p0 + p1) + (p2 + p3)) + p4
+struct Batched {
+  template <int N, class Product>
+  static ZELM_INLINE auto sum(int, Product p) {
+    static_assert(N == 5);
+    return ((p(0) + p(1)) + (p(2) + p(3))) + p(4);
+  }
+};
+
+// Lanes are objects
+
+/// R x C elements of several objects, of an array or the one operand of a call in every lane.
+template <int R, int C, bool beside, class View>
+struct InLanes {
+  View view;
+  ZELM_INLINE auto at(std::ptrdiff_t n, int valid) const {
+    Lanes<typename View::T, R, C> lanes;
+    lanes.template load<beside>(view, n, valid);
+    return lanes;
+  }
+};
+template <int R, int C, bool beside, class View>
+requires(!View::array) struct InLanes<R, C, beside, View> {
+  using T = typename View::T;
+  Lanes<T, R, C> all;
+  explicit InLanes(const View& view) {
+    const auto object = view.object(0);
+    ZELM_AS_IT_STANDS for (int i = 0; i < R; ++i) {
+      ZELM_UNROLL for (int j = 0; j < C; ++j) all.e[i][j] = Pack<T>::splat(object.element(i, j));
+    }
+  }
+  ZELM_INLINE const Lanes<T, R, C>& at(std::ptrdiff_t, int) const { return all; }
+};
+template <int R, int C, bool beside>
+struct InLanes<R, C, beside, None> {
+  explicit InLanes(None) {}
+  ZELM_INLINE None at(std::ptrdiff_t, int) const { return {}; }
+};
+
+/// `turned`: op(A) is the transpose of what `a` holds. `beside`: arrays may be interleaved.
+template <class Order, int N, bool turned, bool beside, class A, class B, class C, class D>
+__attribute__((noinline)) void in_lanes(A a, B b, C c, D d, int count) {
+  using P = Pack<typename D::T>;
+  const InLanes<N, N, beside, A> matrices{a};
+  const InLanes<1, N, beside, B> vectors{b};
+  const InLanes<1, N, beside, C> addends{c};
+  for_blocks<P::lanes>(count, [&, d](std::ptrdiff_t n, auto valid) ZELM_INLINE_LAMBDA {
+    const auto& m = matrices.at(n, valid);
+    const auto& x = vectors.at(n, valid);
+    const auto& y = addends.at(n, valid);
+    Lanes<typename D::T, 1, N> z;
+    ZELM_UNROLL for (int i = 0; i < N; ++i) {
+      z.e[0][i] = Order::template sum<N>(i, [&](int k) { return (turned ? m.e[k][i] : m.e[i][k]) * x.e[0][k]; });
+      if constexpr (!std::is_same_v<C, None>) z.e[0][i] = z.e[0][i] + y.e[0][i];
+    }
+    z.template store<beside>(d, n, valid);
+  });
+}
+
+// Lanes are elements of dst
+
+/// Element k of a vector in every lane of column k.
+template <int N, class View>
+struct Factors {
+  using P = Pack<typename View::T>;
+  View view;
+  struct Splats {
+    P e[N];
+  };
+  ZELM_INLINE Splats at(std::ptrdiff_t n) const {
+    const auto x = view.object(n);
+    Splats splats;
+    ZELM_UNROLL for (int k = 0; k < N; ++k) splats.e[k] = P::splat(x.element(0, k));
+    return splats;
+  }
+};
+template <int N, class View>
+requires(!View::array) struct Factors<N, View> {
+  typename Factors<N, StridedView<const typename View::T, true, true>>::Splats all;
+  explicit ZELM_INLINE Factors(const View& view) {
+    const auto x = view.object(0);
+    ZELM_UNROLL for (int k = 0; k < N; ++k) all.e[k] = Pack<typename View::T>::splat(x.element(0, k));
+  }
+  ZELM_INLINE const auto& at(std::ptrdiff_t) const { return all; }
+};
+
+/// Rows of `columns` are columns of op(A).
+template <class Order, int N, class Columns, class B, class C, class D>
+__attribute__((noinline)) void in_columns(Columns columns, B b, C c, D d, int count) {
+  using R = Row<typename D::T, N>;
+  const auto matrices = held<N, N>(columns);
+  const Factors<N, B> factors{b};
+  const auto addends = [&] {
+    if constexpr (std::is_same_v<C, None>) return c;
+    else return held<1, N>(c);
+  }();
+  for (std::ptrdiff_t n = 0; n < count; ++n) {
+    const auto& m = rows_of<N, N>(matrices.object(n));
+    const auto& x = factors.at(n);
+    R column[N], z;
+    ZELM_UNROLL for (int k = 0; k < N; ++k) column[k] = m.template row<N>(k);
+    ZELM_UNROLL for (int q = 0; q < R::packs; ++q) z.pack[q] =
+        Order::template sum<N>(q * Pack<typename D::T>::lanes, [&](int k) { return column[k].pack[q] * x.e[k]; });
+    if constexpr (!std::is_same_v<C, None>)
+      z = lanewise([](auto s, auto y) { return s + y; }, z, addends.object(n).template row<N>(0));
+    d.object(n).set_row(0, z);
+  }
+}
+
+// Lanes are pairs of neighbouring k, N is even, the order EvenOdd
+
+/// Elements e and e + 1 in all pairs of lanes: loads that cost no shuffle.
+ZELM_INLINE Pack<float> pair(const float* p) { return {_mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)))}; }
+ZELM_INLINE Pack<double> pair(const double* p) { return Pack<double>::load(p); }
+
+/// A pack is a pair of each of one or two rows.
+template <class T, int N>
+struct PairedRows {
+  static constexpr int L = Pack<T>::lanes, rows = L / 2, groups = N / rows;
+  Pack<T> e[groups][N / 2];
+
+  template <class Object>
+  static ZELM_INLINE PairedRows of(const Object& a) {
+    PairedRows m;
+    ZELM_UNROLL for (int g = 0; g < groups; ++g) {
+      ZELM_UNROLL for (int k = 0; k < N; k += 2) {
+        if constexpr (!Object::plain)
+          m.e[g][k / 2] = Pack<T>::template gather<L>([&](int l) { return a.at(g * rows + l / 2, k + l % 2); });
+        else if constexpr (rows == 1) m.e[g][k / 2] = Pack<T>::load(a.at(g, k));
+        else
+          m.e[g][k / 2] = {_mm_loadh_pi(Pack<T>::template load_first<2>(a.at(2 * g, k)).raw,
+                                        reinterpret_cast<const __m64*>(a.at(2 * g + 1, k)))};
+      }
+    }
+    return m;
+  }
+};
+
+template <class T, int N>
+struct PairedVector {
+  Pack<T> e[N / 2];
+
+  template <class Object>
+  static ZELM_INLINE PairedVector of(const Object& x) {
+    PairedVector v;
+    ZELM_UNROLL for (int k = 0; k < N; k += 2) v.e[k / 2] = pair(x.at(0, k));
+    return v;
+  }
+};
+
+/// What `Form` makes of an operand, once where it is no array.
+template <class Form, class View>
+struct Formed {
+  View view;
+  ZELM_INLINE Form at(std::ptrdiff_t n) const { return Form::of(view.object(n)); }
+};
+template <class Form, class View>
+requires(!View::array) struct Formed<Form, View> {
+  Form form;
+  explicit ZELM_INLINE Formed(const View& view) : form(Form::of(view.object(0))) {}
+  ZELM_INLINE const Form& at(std::ptrdiff_t) const { return form; }
+};
+
+ZELM_INLINE Pack<float> evens_and_odds(Pack<float> a, Pack<float> b) {
+  return Pack<float>{shuffle<0x88>(a.raw, b.raw)} + Pack<float>{shuffle<0xdd>(a.raw, b.raw)};
+}
+ZELM_INLINE Pack<double> evens_and_odds(Pack<double> a, Pack<double> b) {
+  return Pack<double>{shuffle<0>(a.raw, b.raw)} + Pack<double>{shuffle<3>(a.raw, b.raw)};
+}
+
+template <int N, class A, class B, class C, class D>
+__attribute__((noinline)) void in_pairs(A a, B b, C c, D d, int count) {
+  using T = typename D::T;
+  using M = PairedRows<T, N>;
+  using R = Row<T, N>;
+  const Formed<M, A> matrices{a};
+  const Formed<PairedVector<T, N>, B> vectors{b};
+  const auto addends = [&] {
+    if constexpr (std::is_same_v<C, None>) return c;
+    else return held<1, N>(c);
+  }();
+  for (std::ptrdiff_t n = 0; n < count; ++n) {
+    const auto& x = vectors.at(n);
+    const auto& m = matrices.at(n);
+    Pack<T> s[M::groups];
+    ZELM_UNROLL for (int g = 0; g < M::groups; ++g) s[g] = Ascending::sum<N / 2>(g, [&](int k) { return m.e[g][k] * x.e[k]; });
+    R z;
+    ZELM_UNROLL for (int q = 0; q < R::packs; ++q) z.pack[q] =
+        evens_and_odds(s[2 * q], s[2 * q + 1 < M::groups ? 2 * q + 1 : 2 * q]);
+    if constexpr (!std::is_same_v<C, None>)
+      z = lanewise([](auto sum, auto y) { return sum + y; }, z, addends.object(n).template row<N>(0));
+    d.object(n).set_row(0, z);
+  }
+}
+
+}  // namespace zelm::products::apply
