@@ -140,27 +140,28 @@ inline constexpr Row kRows[] = {
      "$d = $a * $b + $c", "A height x width; b src2Len, c src3Len elements", "", "", "width == src2Len && height == src3Len"},
     {"Gaxpy", "mvav", "src1 width height src2 src2Len src3 src3Len dst count", "c*w+c*h+h", kGaxpyLimits, "products", "",
      "$d = $a * $b + $c", "A height x width; b src2Len, c src3Len elements", "", "", "width == src2Len && height == src3Len"},
-    {"DotProduct", "vv", "src1 src2 pDst width count", "", "", "products", "", "*pDst = sum over j of $a_ * $b_",
+    {"DotProduct", "vv", "src1 src2 pDst width count", "", "", "products", "dot", "*pDst = sum over j of $a_ * $b_",
      kVectorShapes},
-    {"DotProduct", "vav", "src1 src2 pDst width count", "c*n+n", kDotLimits, "products", "",
+    {"DotProduct", "vav", "src1 src2 pDst width count", "c*n+n", kDotLimits, "products", "dot",
      "pDst[k] = sum over j of $a_ * $b_", kVectorShapes},
-    {"DotProduct", "vava", "src1 src2 pDst width count", "2*c*n", kDotLimits, "products", "",
+    {"DotProduct", "vava", "src1 src2 pDst width count", "2*c*n", kDotLimits, "products", "dot",
      "pDst[k] = sum over j of $a_ * $b_", kVectorShapes},
-    {"CrossProduct", "vv", "src1 src2 dst count", "", "", "products", "", "$d = $a x $b", "vectors of 3 elements"},
+    {"CrossProduct", "vv", "src1 src2 dst count", "", "", "products", "cross", "$d = $a x $b", "vectors of 3 elements"},
     {"CrossProduct", "vav vva", "src1 src2 dst count", "2*c", "3000/3000 3000/3000 3000 3000/3000 3000/3000 3000", "products",
-     "", "$d = $a x $b", "vectors of 3 elements"},
-    {"CrossProduct", "vava", "src1 src2 dst count", "3*c", "3001/3001 3001/3001 3001 3001/3001 3001/3001 3001", "products", "",
-     "$d = $a x $b", "vectors of 3 elements"},
-    {"L2Norm", "v", "src pDst width count", "", "", "products", "", "*pDst = sqrt(sum over j of $a_^2)", kVectorShapes},
-    {"L2Norm", "va", "src pDst width count", "c*n", "1501/1501 1501/1501 1501 1501/1501 1501/1501 1501", "products", "",
-     "pDst[k] = sqrt(sum over j of $a_^2)", kVectorShapes},
-    {"FrobNorm", "m", "src width height pDst count", "", "", "products", "", "*pDst = sqrt(sum over i, j of $a_^2)",
-     "A height x width", "", "", "", Kernels::one},
+     "cross", "$d = $a x $b", "vectors of 3 elements"},
+    {"CrossProduct", "vava", "src1 src2 dst count", "3*c", "3001/3001 3001/3001 3001 3001/3001 3001/3001 3001", "products",
+     "cross", "$d = $a x $b", "vectors of 3 elements"},
+    {"L2Norm", "v", "src pDst width count", "", "", "products", "norm::euclidean", "*pDst = sqrt(sum over j of $a_^2)",
+     kVectorShapes},
+    {"L2Norm", "va", "src pDst width count", "c*n", "1501/1501 1501/1501 1501 1501/1501 1501/1501 1501", "products",
+     "norm::euclidean", "pDst[k] = sqrt(sum over j of $a_^2)", kVectorShapes},
+    {"FrobNorm", "m", "src width height pDst count", "", "", "products", "norm::frobenius",
+     "*pDst = sqrt(sum over i, j of $a_^2)", "A height x width", "", "", "", Kernels::one},
     {"FrobNorm", "ma", "src width height pDst count", "c*w*h", "2501/1801 1601/1601 1501 1801/1501 1601/1601 2501", "products",
-     "", "pDst[k] = sqrt(sum over i, j of $a_^2)", "A height x width"},
-    {"Trace", "m", "src widthHeight pDst count", "", "", "products", "", "*pDst = sum over i of A(i, i)", kSquareShapes},
-    {"Trace", "ma", "src widthHeight pDst count", "c*n", "3601/3601 3601/3601 3601 3601/3601 3601/3601 3601", "products", "",
-     "pDst[k] = sum over i of A[k](i, i)", kSquareShapes},
+     "norm::frobenius", "pDst[k] = sqrt(sum over i, j of $a_^2)", "A height x width"},
+    {"Trace", "m", "src widthHeight pDst count", "", "", "products", "trace", "*pDst = sum over i of A(i, i)", kSquareShapes},
+    {"Trace", "ma", "src widthHeight pDst count", "c*n", "3601/3601 3601/3601 3601 3601/3601 3601/3601 3601", "products",
+     "trace", "pDst[k] = sum over i of A[k](i, i)", kSquareShapes},
 
     // Linear systems
     {"LUDecomp", "m ma", "src pDstIndex dst widthHeight count", "c*n*n", "1001/1001 1001/1001 1001 1001/1001 1001/1001 1001",
@@ -344,7 +345,14 @@ struct Variant {
 };
 
 inline constexpr Variant kVariants[] = {
-    {},
+    // Which aligned batches add neighbouring products first.
+    {"DotProduct", "vava", "32f 64f", "AlignedPairs"},
+    {"DotProduct", "vav", "32f 64f", "AlignedVectors"},
+    {"DotProduct", "vav", "32f_L", "AlignedBlocks"},
+    // Orders with a sum of their own.
+    {"FrobNorm", "m", "32f 64f", "norm::To5"},
+    {"FrobNorm", "ma", "32f 32f_L 64f 64f_L", "norm::From3To6"},
+    {"FrobNorm", "", "32f_P 64f_P", "norm::Only3"},
 };
 
 /// Array functions that stay serial although their kin have a driver.
