@@ -74,12 +74,15 @@ ZELM_INLINE void lanes_to_rows(const Pack<double> (&e)[N], Address at) {
 }
 
 /// Four vectors of three elements without gaps between them: three registers.
-ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const float* p) {
-  const __m128 a = _mm_loadu_ps(p), b = _mm_loadu_ps(p + 4), c = _mm_loadu_ps(p + 8);  // x0y0z0x1 y1z1x2y2 z2x3y3z3
+ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const Pack<float> (&run)[3]) {
+  const __m128 a = run[0].raw, b = run[1].raw, c = run[2].raw;  // x0y0z0x1 y1z1x2y2 z2x3y3z3
   const __m128 y0z0y1z1 = shuffle<0x49>(a, b), x2y2x3y3 = shuffle<0x9e>(b, c);
   e[0].raw = shuffle<0x8c>(a, x2y2x3y3);
   e[1].raw = shuffle<0xd8>(y0z0y1z1, x2y2x3y3);
   e[2].raw = shuffle<0xcd>(y0z0y1z1, c);
+}
+ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const float* p) {
+  packed_to_lanes(e, {Pack<float>::load(p), Pack<float>::load(p + 4), Pack<float>::load(p + 8)});
 }
 ZELM_INLINE void lanes_to_packed(const Pack<float> (&e)[3], float* p) {
   const __m128 x = e[0].raw, y = e[1].raw, z = e[2].raw;

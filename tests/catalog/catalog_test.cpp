@@ -198,13 +198,10 @@ TEST(Catalog, OrdersOfChecksAreThoseOfTheContract) {
 // Cells of the table of limits that stand out from their row, and functions that stay serial (0), of families that are
 // not built: of the others frame/limits_test.cpp knows all.
 const char kLimits[] = R"(
-Mul_tva_64f_L:3601/1441 Gaxpy_mva_32f_L:7001/501 Gaxpy_mvav_64f_P:7001/7001 CrossProduct_vva_64f_L:3000/3000
-CrossProduct_vava_32f_P:3001/3001 DotProduct_vava_64f_L:4201/3301 L2Norm_va_64f:1501/1501 Trace_ma_64f_L:3601/3601
-FrobNorm_ma_64f_P:2501/2501 Det_ma_32f:14401/14401 Invert_ma_32f:3601/2501 CholeskyDecomp_ma_64f_L:721/2001
+Mul_tva_64f_L:3601/1441 Gaxpy_mva_32f_L:7001/501 Gaxpy_mvav_64f_P:7001/7001 Det_ma_32f:14401/14401 Invert_ma_32f:3601/2501 CholeskyDecomp_ma_64f_L:721/2001
 CholeskyBackSubst_mava_32f:2051/1701 CholeskyBackSubst_mava_64f_P:2051/2051 QRBackSubst_mva_64f:2801/2801
 EigenValues_ma_32f_L:251/251 EigenValuesSym_ma_64f:1001/1001 EigenValuesVectors_ma_64f_P:501/501
-EigenValuesVectorsSym_ma_32f:701/701 AffineTransform3DH_mva_32f:785/785 CrossProduct_vva_64f_P:0/0
-EigenValuesVectorsLeft_ma_32f_L:0/0
+EigenValuesVectorsSym_ma_32f:701/701 AffineTransform3DH_mva_32f:785/785 EigenValuesVectorsLeft_ma_32f_L:0/0
 )";
 
 TEST(Catalog, LimitsAreThoseOfTheContract) {

@@ -28,6 +28,7 @@ constexpr Limits kSaxpy = {3001, 2001, 1501, 1001, 1201, 3001, 1201, 1001, 1001,
 constexpr Limits kWeighted = {4501, 4501, 4501, 3751, 4501, 4501, 4501, 4501, 4501, 4501};
 constexpr Limits kProduct = {2501, 1441, 3601, 1441, 1441, 3601, 1441, 3601, 1441, 1441};
 constexpr Limits kGaxpy = {7001, 5001, 7001, 501, 4501, 5001, 5001, 6001, 5001, 7001};
+constexpr Limits kDot = {5001, 2621, 2401, 2401, 2401, 3501, 2001, 4201, 3301, 2001};
 constexpr Limits everywhere(int limit) {
   Limits all{};
   all.fill(limit);
@@ -63,6 +64,16 @@ const struct Rule {
     {"Gaxpy", "mva", [](auto c, auto w, auto h) { return (w + 2 * h) * c; }, kGaxpy},
     {"Gaxpy", "mvav", [](auto c, auto w, auto h) { return c * w + c * h + h; }, kGaxpy},
     {"Copy Extract LoadIdentity Transpose", "ma ta va", nullptr, kNever},
+    {"DotProduct", "vav", [](auto c, auto n, auto) { return c * n + n; }, kDot},
+    {"DotProduct", "vava", kTwoArrays, kDot},
+    {"CrossProduct", "vav vva", [](auto c, auto, auto) { return 2 * c; }, everywhere(3000)},
+    {"CrossProduct", "vava", [](auto c, auto, auto) { return 3 * c; }, everywhere(3001)},
+    {"L2Norm", "va", [](auto c, auto n, auto) { return c * n; }, everywhere(1501)},
+    {"FrobNorm",
+     "ma",
+     [](auto c, auto w, auto h) { return c * w * h; },
+     {2501, 1801, 1601, 1601, 1501, 1801, 1501, 1601, 1601, 2501}},
+    {"Trace", "ma", [](auto c, auto n, auto) { return c * n; }, everywhere(3601)},
     {"LUDecomp", "ma", [](auto c, auto n, auto) { return c * n * n; }, everywhere(1001)},
     {"LUBackSubst", "mva", [](auto c, auto n, auto) { return n * n + 2 * c * n; }, everywhere(701)},
     {"LUBackSubst", "mava", [](auto c, auto n, auto) { return (n + 2) * n * c; }, everywhere(1201)},
@@ -118,7 +129,8 @@ TEST(Limits, EveryArrayFunctionAsksFromItsLimitOn) {
     for (const bool contiguous : {true, false}) {
       if (f.layout == "P" && !contiguous) continue;
       const int column = (f.element == "double" ? 5 : 0) + (f.layout == "P" ? 4 : (f.layout == "L" ? 2 : 0) + !contiguous);
-      const int limit = f.name == "Sub_vva_64f_P" ? 0 : rule->limits[std::size_t(column)];
+      const bool serial = f.name == "Sub_vva_64f_P" || f.name == "CrossProduct_vva_64f_P";
+      const int limit = serial ? 0 : rule->limits[std::size_t(column)];
       if (limit == 0) {  // serial, whatever the cost
         EXPECT_EQ(asked(f.name, 4000, 4, 1, contiguous), 0) << f.name;
         continue;

@@ -259,7 +259,7 @@ ZelStatus Scene::run(const Road& road, Data<T>& data) {
   const auto put = [&](const catalog::Argument& a, auto& array) {
     const std::size_t bytes = array.size() * sizeof(array[0]);
     const int index = kPlain + plain++;
-    Byte* const first = region(index).place(bytes, memory[0].offset, memory[0].at_end);
+    Byte* const first = region(index).place(bytes, memory.back().offset, memory.back().at_end);
     windows.emplace_back(index, first, bytes);
     std::memcpy(first, array.data(), bytes);
     if (!a.source) outputs.push_back({first, bytes_of(array), bytes});

@@ -46,7 +46,7 @@ struct Place {
   int offset = 0;
   bool at_end = false;
 };
-using Memory = std::array<Place, 4>;  // operand by operand
+using Memory = std::array<Place, 4>;  // operand by operand; the last one's offset is that of plain arrays too
 const std::vector<Memory>& memories();
 
 /// Sizes of an element-wise call: every size in every memory, and of the small ones every count besides.
@@ -89,6 +89,7 @@ class Scene {
   std::string describe(const Road& road) const;
   /// Address of the first element of object k.
   std::uintptr_t address(int operand, int k) const { return std::uintptr_t(at(placed[operand], k, 0)); }
+  const std::array<int, 3>& strides(int operand) const { return placed[operand].strides; }
   bool contiguous() const;
 
  private:

@@ -1,0 +1,337 @@
+// reduce.hpp: one number from each vector, or from each pair of vectors: sums of squares and of products.
+//
+// Widths 3 to 6 go by blocks of objects where memory allows, one object in each lane: the terms are formed row by row, turned into
+// lanes, and added there in the order that the kernel has. All other widths are summed by eights, object by object or, of
+// interleaved arrays, in lanes again. What runs in lanes and what runs alone has the same order, so the same bits.
+#pragma once
+#include <cmath>
+
+#include "frame/lanes.hpp"
+#include "products/sums.hpp"
+
+namespace zelm::products {
+
+struct Times {
+  template <class V>
+  ZELM_INLINE V operator()(V a, V b) const {
+    return a * b;
+  }
+};
+
+/// p0 + p1 + p2 ...
+struct Ascending {
+  template <class V, int N>
+  static ZELM_INLINE V of(const V (&p)[N]) {
+    V sum = p[0];
+    ZELM_UNROLL for (int j = 1; j < N; ++j) sum = sum + p[j];
+    return sum;
+  }
+};
+
+/// (p0 + p1) + (p2 + p3) + ..., the last one alone where their number is odd.
+struct Paired {
+  template <class V, int N>
+  static ZELM_INLINE V of(const V (&p)[N]) {
+    V sum = p[0];
+    if constexpr (N > 1) sum = sum + p[1];
+    ZELM_UNROLL for (int j = 2; j + 1 < N; j += 2) sum = sum + (p[j] + p[j + 1]);
+    if constexpr (N > 2 && N % 2) sum = sum + p[N - 1];
+    return sum;
+  }
+};
+
+/// The order of a width's sums, in a block of objects and of one object alone.
+template <class Block, class One>
+struct Sums {
+  template <class V, int N>
+  ZELM_INLINE V block(const V (&p)[N], std::ptrdiff_t) const {
+    return Block::of(p);
+  }
+  template <class T, int N>
+  ZELM_INLINE T one(const T (&p)[N]) const {
+    return One::of(p);
+  }
+};
+
+/// Where the packed part of an object's sum begins.
+template <class Object>
+ZELM_INLINE int lead_of(const Object& object) {
+  using T = typename Object::T;
+  if constexpr (requires { object.table; }) return elements_to_alignment<T>(object.table);
+  else if constexpr (Object::plain) return elements_to_alignment<T>(object.at(0, 0));
+  else return 0;
+}
+
+/// Products of the elements of two objects, the second of which decides where packed sums begin.
+template <class X, class Y>
+struct ProductsOf {
+  using T = typename X::T;
+  static constexpr bool plain = X::plain;
+  X x;
+  Y y;
+  ZELM_INLINE T one(int j) const { return x.element(0, j) * y.element(0, j); }
+  ZELM_INLINE Pack<T> pack(int j) const { return Pack<T>::load(x.at(0, j)) * Pack<T>::load(y.at(0, j)); }
+  template <int N>
+  ZELM_INLINE Row<T, N> row() const {
+    return lanewise(Times{}, x.template row<N>(0), y.template row<N>(0));
+  }
+  ZELM_INLINE int lead() const { return lead_of(y); }
+};
+
+template <class X>
+struct SquaresOf {
+  using T = typename X::T;
+  static constexpr bool plain = X::plain;
+  X x;
+  ZELM_INLINE T one(int j) const { return x.element(0, j) * x.element(0, j); }
+  ZELM_INLINE Pack<T> pack(int j) const {
+    const Pack<T> a = Pack<T>::load(x.at(0, j));
+    return a * a;
+  }
+  template <int N>
+  ZELM_INLINE Row<T, N> row() const {
+    const Row<T, N> r = x.template row<N>(0);
+    return lanewise(Times{}, r, r);
+  }
+  ZELM_INLINE int lead() const { return lead_of(x); }
+};
+
+/// Element j of the objects k, k + 1, ... of an interleaved array, or of the one object.
+template <class View>
+ZELM_INLINE auto beside(const View& view, std::ptrdiff_t k, int i, int j) {
+  using T = typename View::T;
+  if constexpr (View::array) return Pack<T>::load(view.object(k).at(i, j));
+  else return Pack<T>::splat(view.object(0).element(i, j));
+}
+
+/// Pack q of the four vectors of three elements that begin with object k of an array without gaps.
+template <class View>
+ZELM_INLINE auto packed(const View& view, std::ptrdiff_t k, int q) {
+  return Pack<typename View::T>::load(view.first + k * 3 + q * Pack<typename View::T>::lanes);
+}
+
+/// Terms of a reduction: the products of two operands, of which the second may be one vector for all objects.
+template <class A, class B>
+struct Products {
+  using T = typename A::T;
+  using Object = ProductsOf<typename A::Object, typename B::Object>;
+  static constexpr bool array = A::array, plain = A::Object::plain;
+  static constexpr bool packable = A::plain && std::is_same_v<T, float>;
+  A a;
+  B b;
+
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {a.object(k), b.object(k)}; }
+  ZELM_INLINE bool interleaved() const { return a.interleaved() && (!B::array || b.interleaved()); }
+  ZELM_INLINE bool tight(int n) const { return a.tight(1, n) && (!B::array || b.tight(1, n)); }
+  ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k, int j) const { return beside(a, k, 0, j) * beside(b, k, 0, j); }
+
+  /// Rows of the terms of N elements for as many objects as a register has lanes. The single vector is read once.
+  template <int N>
+  ZELM_INLINE auto rows() const {
+    constexpr int L = Pack<T>::lanes;
+    return [a = a, second = held<1, N>(b)](std::ptrdiff_t k, Block<T, L, N>& to) ZELM_INLINE_LAMBDA {
+      typename A::Object x[L];
+      a.objects(k, L, x);
+      if constexpr (B::array) {
+        typename B::Object y[L];
+        second.objects(k, L, y);
+        ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] =
+            lanewise(Times{}, x[l].template row<N>(0), y[l].template row<N>(0));
+      } else {
+        ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] = lanewise(Times{}, x[l].template row<N>(0), second.block.rows[0]);
+      }
+    };
+  }
+  /// The same of four vectors of three elements without gaps.
+  ZELM_INLINE auto runs() const {
+    if constexpr (B::array) {
+      return [a = a, b = b](std::ptrdiff_t k, int q) ZELM_INLINE_LAMBDA { return packed(a, k, q) * packed(b, k, q); };
+    } else {
+      const auto y = b.object(0);
+      alignas(16) T repeated[12];
+      for (int e = 0; e < 12; ++e) repeated[e] = y.element(0, e % 3);
+      return [a = a, p0 = Pack<T>::load(repeated), p1 = Pack<T>::load(repeated + 4), p2 = Pack<T>::load(repeated + 8)](
+                 std::ptrdiff_t k, int q) ZELM_INLINE_LAMBDA {
+        return packed(a, k, q) * (q == 0 ? p0 : q == 1 ? p1 : p2);
+      };
+    }
+  }
+};
+
+/// The squares of one operand.
+template <class A>
+struct Squares {
+  using T = typename A::T;
+  using Object = SquaresOf<typename A::Object>;
+  static constexpr bool array = A::array, plain = A::Object::plain;
+  static constexpr bool packable = A::plain && std::is_same_v<T, float>;
+  A a;
+
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {a.object(k)}; }
+  ZELM_INLINE bool interleaved() const { return a.interleaved(); }
+  ZELM_INLINE bool tight(int n) const { return a.tight(1, n); }
+  ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k, int j) const {
+    const Pack<T> x = beside(a, k, 0, j);
+    return x * x;
+  }
+  template <int N>
+  ZELM_INLINE auto rows() const {
+    constexpr int L = Pack<T>::lanes;
+    return [a = a](std::ptrdiff_t k, Block<T, L, N>& to) ZELM_INLINE_LAMBDA {
+      typename A::Object x[L];
+      a.objects(k, L, x);
+      ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] = SquaresOf<typename A::Object>{x[l]}.template row<N>();
+    };
+  }
+  ZELM_INLINE auto runs() const {
+    return [a = a](std::ptrdiff_t k, int q) ZELM_INLINE_LAMBDA {
+      const Pack<T> x = packed(a, k, q);
+      return x * x;
+    };
+  }
+};
+
+// Fixed widths
+
+/// From object k on, one at a time.
+template <int N, class Terms, class Sum>
+__attribute__((noinline)) void reduce_each(Terms terms, typename Terms::T* d, std::ptrdiff_t k, std::ptrdiff_t count, Sum sum) {
+  for (; k < count; ++k) {
+    const auto object = terms.object(k);
+    typename Terms::T p[N];
+    ZELM_UNROLL for (int j = 0; j < N; ++j) p[j] = object.one(j);
+    store(d + k, sum.one(p));
+  }
+}
+
+/// Blocks of as many objects as a register has lanes; lanes(k, e) fills them with the terms.
+template <int N, class Terms, class Sum, class ToLanes>
+ZELM_INLINE void reduce_blocks(Terms terms, typename Terms::T* d, std::ptrdiff_t count, Sum sum, ToLanes lanes) {
+  using P = Pack<typename Terms::T>;
+  std::ptrdiff_t k = 0;
+  for (; k + P::lanes <= count; k += P::lanes) {
+    P e[N];
+    lanes(k, e);
+    sum.block(e, k).store(d + k);
+  }
+  if (k < count) reduce_each<N>(terms, d, k, count, sum);
+}
+
+template <int N, class Terms, class Sum>
+__attribute__((noinline)) void reduce_interleaved(Terms terms, typename Terms::T* d, std::ptrdiff_t count, Sum sum) {
+  reduce_blocks<N>(terms, d, count, sum, [=](std::ptrdiff_t k, auto& e) ZELM_INLINE_LAMBDA {
+    ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = terms.lanes(k, j);
+  });
+}
+
+template <class Terms, class Sum>
+__attribute__((noinline)) void reduce_packed(Terms terms, typename Terms::T* d, std::ptrdiff_t count, Sum sum) {
+  const auto runs = terms.runs();
+  reduce_blocks<3>(terms, d, count, sum, [=](std::ptrdiff_t k, auto& e) ZELM_INLINE_LAMBDA {
+    packed_to_lanes(e, {runs(k, 0), runs(k, 1), runs(k, 2)});
+  });
+}
+
+template <int N, class Terms, class Sum>
+__attribute__((noinline)) void reduce_rows(Terms terms, typename Terms::T* d, std::ptrdiff_t count, Sum sum) {
+  using T = typename Terms::T;
+  constexpr int L = Pack<T>::lanes;
+  const auto rows = terms.template rows<N>();
+  reduce_blocks<N>(terms, d, count, sum, [=](std::ptrdiff_t k, auto& e) ZELM_INLINE_LAMBDA {
+    Block<T, L, N> block;
+    rows(k, block);
+    const Block<T, N, L> turned = transposed(block);
+    ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = turned.rows[j].pack[0];
+  });
+}
+
+template <int N, class Terms, class Sum>
+ZELM_INLINE void reduce_fixed(const Terms& terms, typename Terms::T* d, int count, Sum sum) {
+  if constexpr (Terms::array && Terms::plain) {
+    if constexpr (N == 3 && Terms::packable) {
+      if (terms.tight(3)) return reduce_packed(terms, d, count, sum);
+    }
+    reduce_rows<N>(terms, d, count, sum);
+  } else {
+    if constexpr (Terms::array) {
+      if (terms.interleaved()) return reduce_interleaved<N>(terms, d, count, sum);
+    }
+    reduce_each<N>(terms, d, 0, count, sum);
+  }
+}
+
+// Any width
+
+/// EightLanes for terms that do not come in packs. V: an element, or a pack with one object in each lane.
+template <class T, class V>
+struct EightSums {
+  V part[8] = {};
+
+  template <class Term>
+  ZELM_INLINE void add(int j, Term term) {
+    ZELM_UNROLL for (int l = 0; l < 8; ++l) part[l] = part[l] + term(j + l);
+  }
+  ZELM_INLINE V sum() const {
+    const auto& p = part;
+    if constexpr (std::is_same_v<T, float>) return ((p[0] + p[4]) + (p[2] + p[6])) + ((p[1] + p[5]) + (p[3] + p[7]));
+    else return ((p[0] + p[2]) + (p[4] + p[6])) + ((p[1] + p[3]) + (p[5] + p[7]));
+  }
+};
+
+/// Leading terms one by one, but only if eight remain behind them; then eights; then the rest.
+/// eights(first, j) adds those from j on to what lane 0 starts from, and moves j behind them.
+template <class V, class Term, class Eights>
+ZELM_INLINE V sum_by_eights(int width, int lead, Term term, Eights eights) {
+  V sum = {};
+  int j = 0;
+  if (lead >= 0 && width - lead >= 8) {
+    for (; j < lead; ++j) sum = sum + term(j);
+    sum = eights(sum, j);
+  }
+  for (; j < width; ++j) sum = sum + term(j);
+  return sum;
+}
+
+template <class Object>
+ZELM_INLINE typename Object::T sum_of(const Object& object, int width, int lead) {
+  using T = typename Object::T;
+  const auto one = [&](int j) ZELM_INLINE_LAMBDA { return object.one(j); };
+  return sum_by_eights<T>(width, lead, one, [&](T first, int& j) ZELM_INLINE_LAMBDA {
+    if constexpr (Object::plain) {
+      EightLanes<T> eight(first);
+      for (; j + 8 <= width; j += 8) eight.add(j, [&](int e) ZELM_INLINE_LAMBDA { return object.pack(e); });
+      return eight.sum();
+    } else {
+      EightSums<T, T> eight{{first}};
+      for (; j + 8 <= width; j += 8) eight.add(j, one);
+      return eight.sum();
+    }
+  });
+}
+
+/// finish(sum): the result, of an element or of a pack.
+template <class Terms, class Finish>
+__attribute__((noinline)) void reduce_any(Terms terms, typename Terms::T* d, int width, std::ptrdiff_t count, Finish finish) {
+  using T = typename Terms::T;
+  using P = Pack<T>;
+  std::ptrdiff_t k = 0;
+  if constexpr (Terms::array && !Terms::plain) {
+    if (terms.interleaved()) {
+      const int lead = terms.object(0).lead();
+      for (; k + P::lanes <= count; k += P::lanes) {
+        const auto lanes = [&](int j) ZELM_INLINE_LAMBDA { return terms.lanes(k, j); };
+        finish(sum_by_eights<P>(width, lead, lanes, [&](P first, int& j) ZELM_INLINE_LAMBDA {
+          EightSums<T, P> eight{{first}};
+          for (; j + 8 <= width; j += 8) eight.add(j, lanes);
+          return eight.sum();
+        })).store(d + k);
+      }
+    }
+  }
+  for (; k < count; ++k) {
+    const auto object = terms.object(k);
+    store(d + k, finish(sum_of(object, width, object.lead())));
+  }
+}
+
+}  // namespace zelm::products
