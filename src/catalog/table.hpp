@@ -176,16 +176,16 @@ inline constexpr Row kRows[] = {
      "1201/1201 1201/1201 1201 1201/1201 1201/1201 1201", "solvers", "lu::solve",
      "solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote", kSolveShapes},
     {"CholeskyDecomp", "m ma", "src dst widthHeight count", "c*n*n", "7501/7501 2001/2001 2001 2001/2001 721/2001 2001",
-     "solvers", "",
+     "solvers", "cholesky::decompose",
      "A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L, with the "
      "reciprocals of L's diagonal on its diagonal",
      kSquareShapes, "zelStsNotPositiveDefinite"},
-    {"CholeskyBackSubst", "mv", "src1 src2 dst widthHeight count", "", "", "solvers", "",
+    {"CholeskyBackSubst", "mv", "src1 src2 dst widthHeight count", "", "", "solvers", "cholesky::solve",
      "solves A x = b from the factor that zelmCholeskyDecomp wrote", kSolveShapes},
     {"CholeskyBackSubst", "mva", "src1 src2 dst widthHeight count", "n*n+2*c*n", "1201/1201 721/721 721 721/721 721/721 721",
-     "solvers", "", "solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote", kSolveShapes},
+     "solvers", "cholesky::solve", "solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote", kSolveShapes},
     {"CholeskyBackSubst", "mava", "src1 src2 dst widthHeight count", "(n+2)*n*c",
-     "2051/1701 1701/1701 1701 1701/1701 1701/1701 2051", "solvers", "",
+     "2051/1701 1701/1701 1701 1701/1701 1701/1701 2051", "solvers", "cholesky::solve",
      "solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote", kSolveShapes},
     {"QRDecomp", "m ma", "src pBuffer dst width height count", "2*c*w*h", kQRLimits, "solvers", "",
      "A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left out)",
@@ -344,7 +344,14 @@ struct Variant {
 };
 
 inline constexpr Variant kVariants[] = {
-    {},
+    {"CholeskyDecomp", "ma", "32f", "cholesky::FourObjects"},
+    {"CholeskyDecomp", "", "32f 32f_L", "cholesky::SplitSums"},
+    {"CholeskyDecomp", "", "32f_P 64f_P", "cholesky::ElementTables"},
+    {"CholeskyDecomp", "ma", "64f_S2", "cholesky::LimitedLoops"},
+    {"CholeskyDecomp", "", "", "cholesky::InOrder"},
+    {"CholeskyBackSubst", "mva", "32f 32f_S2", "cholesky::FourVectors"},
+    {"CholeskyBackSubst", "mv", "32f", "cholesky::SplitSums"},
+    {"CholeskyBackSubst", "", "", "cholesky::InOrder"},
 };
 
 /// Array functions that stay serial although their kin have a driver.
