@@ -54,13 +54,6 @@ ZELM_INLINE auto along_row(const Object& object, int i) {
   else return Same<typename Object::T>{object.element(i, 0)};
 }
 
-/// Calls body(0), ..., body(N - 1) with constants.
-template <int N, class Body>
-ZELM_INLINE void unroll(Body body) {
-  [&]<int... q>(std::integer_sequence<int, q...>) { (body(std::integral_constant<int, q>{}), ...); }
-  (std::make_integer_sequence<int, N>{});
-}
-
 /// Of objects of N elements one after the other, register q: each element's object's lane of `values`.
 template <int N, int q>
 ZELM_INLINE Pack<float> spread(Pack<float> values) {

@@ -38,6 +38,10 @@ struct EightLanes {
   ZELM_INLINE void add(int k, A a, B b) {
     ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = part[p] + a(k + p * L) * b(k + p * L);
   }
+  template <class A, class B>
+  ZELM_INLINE void subtract(int k, A a, B b) {
+    ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = part[p] - a(k + p * L) * b(k + p * L);
+  }
 
   /// The same of terms that are products already.
   template <class Term>

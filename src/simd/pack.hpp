@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 // Loops over rows, columns and lanes of known number become straight-line code; arrays of packs then live in registers.
 #define ZELM_UNROLL _Pragma("clang loop unroll(full)")
@@ -15,6 +16,13 @@
 #define ZELM_INLINE_LAMBDA __attribute__((always_inline))
 
 namespace zelm {
+
+/// Calls body(0), ..., body(N - 1) with constants. For bodies in which ZELM_UNROLL is not enough, because a size depends on i.
+template <int N, class Body>
+ZELM_INLINE void unroll(Body body) {
+  [&]<int... i>(std::integer_sequence<int, i...>) ZELM_INLINE_LAMBDA { (body(std::integral_constant<int, i>{}), ...); }
+  (std::make_integer_sequence<int, N>{});
+}
 
 /// One element at an address of any alignment.
 template <class T>
@@ -94,9 +102,13 @@ struct Pack<float> {
   friend ZELM_INLINE Pack operator-(Pack a, Pack b) { return {_mm_sub_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator*(Pack a, Pack b) { return {_mm_mul_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator/(Pack a, Pack b) { return {_mm_div_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack sqrt(Pack a) { return {_mm_sqrt_ps(a.raw)}; }
+  /// 1 / sqrt(a) to a relative 1.5 * 2^-12, one lane as all four; infinite for 0 and for subnormal numbers.
+  friend ZELM_INLINE Pack inverse_root_estimate(Pack a) { return {_mm_rsqrt_ps(a.raw)}; }
 
   // Comparisons give a mask: all bits of a lane set where true, false for a NaN on either side.
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator>=(Pack a, Pack b) { return {_mm_cmpge_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator|(Pack a, Pack b) { return {_mm_or_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_ps(b.raw, a.raw)}; }
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_ps(no.raw, yes.raw, mask.raw)}; }
@@ -148,8 +160,10 @@ struct Pack<double> {
   friend ZELM_INLINE Pack operator-(Pack a, Pack b) { return {_mm_sub_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator*(Pack a, Pack b) { return {_mm_mul_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator/(Pack a, Pack b) { return {_mm_div_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack sqrt(Pack a) { return {_mm_sqrt_pd(a.raw)}; }
 
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator>=(Pack a, Pack b) { return {_mm_cmpge_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator|(Pack a, Pack b) { return {_mm_or_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_pd(b.raw, a.raw)}; }
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_pd(no.raw, yes.raw, mask.raw)}; }

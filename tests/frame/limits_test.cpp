@@ -19,6 +19,8 @@ constexpr Cost kThreeArrays = [](auto c, auto w, auto h) { return 3 * c * w * h;
 constexpr Cost kTwoArrays = [](auto c, auto w, auto h) { return 2 * c * w * h; };
 constexpr Cost kOneMatrix = [](auto c, auto w, auto h) { return w * h + c * w + c * h; };
 constexpr Cost kOneAndConstants = [](auto c, auto n, auto) { return c * n + c + n; };
+constexpr Cost kOneFactor = [](auto c, auto n, auto) { return n * n + 2 * c * n; };
+constexpr Cost kOwnFactors = [](auto c, auto n, auto) { return (n + 2) * n * c; };
 constexpr Cost kArrayAndConstants = [](auto c, auto n, auto) { return (2 * n + 1) * c; };
 
 constexpr Limits kMatrix = {3000, 2000, 2000, 2000, 2000, 2000, 2000, 2000, 2000, 2000};
@@ -75,8 +77,14 @@ const struct Rule {
      {2501, 1801, 1601, 1601, 1501, 1801, 1501, 1601, 1601, 2501}},
     {"Trace", "ma", [](auto c, auto n, auto) { return c * n; }, everywhere(3601)},
     {"LUDecomp", "ma", [](auto c, auto n, auto) { return c * n * n; }, everywhere(1001)},
-    {"LUBackSubst", "mva", [](auto c, auto n, auto) { return n * n + 2 * c * n; }, everywhere(701)},
-    {"LUBackSubst", "mava", [](auto c, auto n, auto) { return (n + 2) * n * c; }, everywhere(1201)},
+    {"LUBackSubst", "mva", kOneFactor, everywhere(701)},
+    {"LUBackSubst", "mava", kOwnFactors, everywhere(1201)},
+    {"CholeskyDecomp",
+     "ma",
+     [](auto c, auto n, auto) { return c * n * n; },
+     {7501, 7501, 2001, 2001, 2001, 2001, 2001, 721, 2001, 2001}},
+    {"CholeskyBackSubst", "mva", kOneFactor, {1201, 1201, 721, 721, 721, 721, 721, 721, 721, 721}},
+    {"CholeskyBackSubst", "mava", kOwnFactors, {2051, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 2051}},
 };
 
 const Rule* rule_of(const Function& f) {
