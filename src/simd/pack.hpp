@@ -94,9 +94,12 @@ struct Pack<float> {
   friend ZELM_INLINE Pack operator-(Pack a, Pack b) { return {_mm_sub_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator*(Pack a, Pack b) { return {_mm_mul_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator/(Pack a, Pack b) { return {_mm_div_ps(a.raw, b.raw)}; }
+  /// 1 / a with a relative error of at most 1.5 * 2^-12; the bits are the processor's.
+  friend ZELM_INLINE Pack approximate_reciprocal(Pack a) { return {_mm_rcp_ps(a.raw)}; }
 
   // Comparisons give a mask: all bits of a lane set where true, false for a NaN on either side.
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_ps(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator>=(Pack a, Pack b) { return {_mm_cmpge_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator|(Pack a, Pack b) { return {_mm_or_ps(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_ps(b.raw, a.raw)}; }
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_ps(no.raw, yes.raw, mask.raw)}; }
@@ -149,6 +152,7 @@ struct Pack<double> {
   friend ZELM_INLINE Pack operator/(Pack a, Pack b) { return {_mm_div_pd(a.raw, b.raw)}; }
 
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack operator>=(Pack a, Pack b) { return {_mm_cmpge_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack operator|(Pack a, Pack b) { return {_mm_or_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE Pack and_not(Pack a, Pack b) { return {_mm_andnot_pd(b.raw, a.raw)}; }
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_pd(no.raw, yes.raw, mask.raw)}; }
