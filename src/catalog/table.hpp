@@ -29,6 +29,7 @@ struct Row {
   std::string_view scratch = "";   // bytes of pBuffer that a driver allocates for each thread; E = element size
   std::string_view mismatch = "";  // condition of zelStsSizeMismatch
   Kernels kernels = Kernels::by_stride;
+  std::string_view order_one = "";  // the formula with which the entry answers order 1 itself
 };
 
 inline constexpr std::string_view kMatrixLimits = "3000/2000 2000/2000 2000 2000/2000 2000/2000 2000";
@@ -205,11 +206,13 @@ inline constexpr Row kRows[] = {
     {"QRBackSubst", "mava", "src1 pBuffer src2 dst width height count", "c*w*h+c*w+c*h", kQRLimits, "solvers", "",
      "least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp",
      "A height x width; b height, x width elements; pBuffer height elements", "", "h*E", "width <= height"},
-    {"Det", "m", "src widthHeight pBuffer pDst count", "", "", "solvers", "", "*pDst = det(A)", kSquareShapes},
+    {"Det", "m", "src widthHeight pBuffer pDst count", "", "", "solvers", "determinant::compute", "*pDst = det(A)",
+     kSquareShapes},
     {"Det", "ma", "src widthHeight pBuffer pDst count", "c*n", "14401/14401 14401/14401 14401 14401/14401 14401/14401 14401",
-     "solvers", "", "pDst[k] = det(A[k])", kSquareShapes, "", "(n*n+n)*E"},
+     "solvers", "determinant::compute", "pDst[k] = det(A[k])", kSquareShapes, "", "(n*n+n)*E"},
     {"Invert", "m ma", "src pBuffer dst widthHeight count", "2*c*n", "3601/2501 2501/2501 2501 2501/2501 2501/2501 2501",
-     "solvers", "", "$d = inverse of $a", kSquareShapes, "zelStsSingular", "(n*n+n)*E"},
+     "solvers", "inverse::invert", "$d = inverse of $a", kSquareShapes, "zelStsSingular", "(n*n+n)*E", "", Kernels::by_stride,
+     "inverse::reciprocals"},
 
     // Eigenproblems
     {"EigenValuesSym", "m ma", "src pBuffer pDst widthHeight count", "c*n*n+c*n",
@@ -401,6 +404,10 @@ inline constexpr Variant kVariants[] = {
     {"CholeskyBackSubst", "mva", "32f 32f_S2", "cholesky::FourVectors"},
     {"CholeskyBackSubst", "mv", "32f", "cholesky::SplitSums"},
     {"CholeskyBackSubst", "", "", "cholesky::InOrder"},
+    {"Det", "m", "32f 64f", "determinant::Extended"},      {"Det", "ma", "32f_L 64f 64f_L", "determinant::Extended"},
+    {"Det", "ma", "32f", "determinant::ByOrder"},          {"Det", "", "", "determinant::Element"},
+    {"Invert", "ma", "32f", "inverse::ContiguousArray32"}, {"Invert", "", "32f 32f_L", "inverse::Contiguous32"},
+    {"Invert", "", "64f 64f_L", "inverse::Contiguous64"},  {"Invert", "", "", "inverse::AnyStride"},
 };
 
 /// Array functions that stay serial although their kin have a driver.

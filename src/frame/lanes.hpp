@@ -174,6 +174,14 @@ struct Lanes {
     ZELM_UNROLL for (int i = 0; i < R; ++i) store_row(e[i], objects, [&](int) { return i; });
   }
 
+  /// One object in every lane.
+  template <class Object>
+  ZELM_INLINE void splat(const Object& object) {
+    ZELM_UNROLL for (int i = 0; i < R; ++i) {
+      ZELM_UNROLL for (int j = 0; j < C; ++j) e[i][j] = Pack<T>::splat(object.element(i, j));
+    }
+  }
+
   /// Element (i, j) of the object in lane l: for what goes element by element.
   T at(int l, int i, int j) const {
     alignas(16) T lanes[L];

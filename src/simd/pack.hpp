@@ -105,6 +105,8 @@ struct Pack<float> {
   friend ZELM_INLINE Pack sqrt(Pack a) { return {_mm_sqrt_ps(a.raw)}; }
   /// 1 / sqrt(a) to a relative 1.5 * 2^-12, one lane as all four; infinite for 0 and for subnormal numbers.
   friend ZELM_INLINE Pack inverse_root_estimate(Pack a) { return {_mm_rsqrt_ps(a.raw)}; }
+  /// 1 / a with a relative error of at most 1.5 * 2^-12; the bits are the processor's.
+  friend ZELM_INLINE Pack approximate_reciprocal(Pack a) { return {_mm_rcp_ps(a.raw)}; }
 
   // Comparisons give a mask: all bits of a lane set where true, false for a NaN on either side.
   friend ZELM_INLINE Pack operator>(Pack a, Pack b) { return {_mm_cmpgt_ps(a.raw, b.raw)}; }

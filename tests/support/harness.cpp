@@ -230,7 +230,8 @@ ZelStatus Scene::run(const Road& road, Data<T>& data) {
     std::size_t bytes;
   };
   std::vector<Output> outputs;
-  std::vector<T> scratch;
+  std::vector<T> scratch;  // what a call leaves there is nobody's business
+  std::vector<int> mixed;
   int plain = 0;
 
   std::vector<Byte*> pointers;  // of the operands: first element or table
@@ -270,6 +271,7 @@ ZelStatus Scene::run(const Road& road, Data<T>& data) {
     if ((road.direct && !road.kernel->takes(a)) || (road.driver && !f.driver_takes(a))) continue;
     Value v;
     if (a.kind == Kind::pointer && a.operand >= 0) v.p = pointers[a.operand];
+    else if (a.name == "pBuffer" && data.indices.contains(a.name)) v.p = put(a, mixed = data.indices.at(a.name));
     else if (a.name == "pBuffer") v.p = put(a, scratch = data.arrays.at(a.name));
     else if (a.type.find("int*") != a.type.npos) v.p = put(a, data.indices.at(a.name));
     else if (a.kind == Kind::pointer) v.p = put(a, data.arrays.at(a.name));

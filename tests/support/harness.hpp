@@ -61,7 +61,7 @@ std::vector<Case> cases(const Function& f, const Sides& larger = {});
 template <class T>
 struct Data {
   std::vector<std::vector<T>> operands;
-  std::map<std::string_view, std::vector<int>> indices;  // plain arguments of type int*, by name
+  std::map<std::string_view, std::vector<int>> indices;  // plain arguments of type int*, by name; scratch that holds indices
   std::map<std::string_view, std::vector<T>> arrays;     // plain arguments of type T*; scratch
   std::map<std::string_view, double> values;             // constants
 };
@@ -89,6 +89,7 @@ class Scene {
   std::string describe(const Road& road) const;
   /// Address of the first element of object k.
   std::uintptr_t address(int operand, int k) const { return std::uintptr_t(at(placed[operand], k, 0)); }
+  /// From object to object, row to row, element to element.
   const std::array<int, 3>& strides(int operand) const { return placed[operand].strides; }
   bool contiguous() const;
 
