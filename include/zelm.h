@@ -745,6 +745,116 @@ ZelStatus zelmCopy_va_64f_SP(const double* pSrc, int srcStride0, int srcStride2,
 ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
+/* ---- EigenValuesSym ---- */
+
+/** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer, float* pDst,
+    int widthHeight);
+
+/** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer, float* pDst,
+    int widthHeight);
+
+/** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer, double* pDst,
+    int widthHeight);
+
+/** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer, double* pDst,
+    int widthHeight);
+
+/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    float* pDst, int widthHeight, int count);
+
+/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, float* pDst, int widthHeight, int count);
+
+/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    float* pDst, int widthHeight, int count);
+
+/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    double* pDst, int widthHeight, int count);
+
+/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, double* pDst, int widthHeight, int count);
+
+/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesSym_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    double* pDst, int widthHeight, int count);
+
+/* ---- EigenValuesVectorsSym ---- */
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer,
+    float* pDstVectors, int dstStride1, int dstStride2, float* pDstValues, int widthHeight);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer,
+    float* const* ppDstVectors, int dstByteShift, float* pDstValues, int widthHeight);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer,
+    double* pDstVectors, int dstStride1, int dstStride2, double* pDstValues, int widthHeight);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer,
+    double* const* ppDstVectors, int dstByteShift, double* pDstValues, int widthHeight);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    void* pBuffer, float* pDstVectors, int dstStride0, int dstStride1, int dstStride2, float* pDstValues,
+    int widthHeight, int count);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1,
+    int srcStride2, void* pBuffer, float* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2,
+    float* pDstValues, int widthHeight, int count);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
+    void* pBuffer, float* const* ppDstVectors, int dstByteShift, int dstStride0, float* pDstValues, int widthHeight,
+    int count);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    void* pBuffer, double* pDstVectors, int dstStride0, int dstStride1, int dstStride2, double* pDstValues,
+    int widthHeight, int count);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1,
+    int srcStride2, void* pBuffer, double* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2,
+    double* pDstValues, int widthHeight, int count);
+
+/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
+    zelStsSingular, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsSym_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
+    void* pBuffer, double* const* ppDstVectors, int dstByteShift, int dstStride0, double* pDstValues, int widthHeight,
+    int count);
+
 /* ---- Extract ---- */
 
 /** pDst[(k*height + i)*width + j] = A(i, j); packed block: height x width. */

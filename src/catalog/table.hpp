@@ -216,11 +216,12 @@ inline constexpr Row kRows[] = {
 
     // Eigenproblems
     {"EigenValuesSym", "m ma", "src pBuffer pDst widthHeight count", "c*n*n+c*n",
-     "1001/1001 1001/1001 1001 1001/1001 1001/1001 1001", "eigen", "", "eigenvalues of the symmetric $a", kSquareShapes,
-     "zelStsSingular zelStsNoConvergence", "n*n*E"},
-    {"EigenValuesVectorsSym", "m ma", "src pBuffer dstVectors pDstValues widthHeight count", "2*c*n*n+c*n",
-     "701/701 701/701 701 701/701 701/701 701", "eigen", "", "eigenvalues and eigenvectors (columns) of the symmetric $a",
+     "1001/1001 1001/1001 1001 1001/1001 1001/1001 1001", "eigen", "symmetric::values", "eigenvalues of the symmetric $a",
      kSquareShapes, "zelStsSingular zelStsNoConvergence", "n*n*E"},
+    {"EigenValuesVectorsSym", "m ma", "src pBuffer dstVectors pDstValues widthHeight count", "2*c*n*n+c*n",
+     "701/701 701/701 701 701/701 701/701 701", "eigen", "symmetric::vectors",
+     "eigenvalues and eigenvectors (columns) of the symmetric $a", kSquareShapes, "zelStsSingular zelStsNoConvergence",
+     "n*n*E"},
     {"EigenValues", "m ma", "src pDstValuesRe pDstValuesIm widthHeight count pBuffer", "c*n*n+c*n",
      "251/251 251/251 251 251/251 251/251 251", "eigen", "", "eigenvalues of the general $a", kSquareShapes,
      "zelStsNoConvergence", "n*E*(3*n+5)", "", Kernels::one},
@@ -408,6 +409,13 @@ inline constexpr Variant kVariants[] = {
     {"Det", "ma", "32f", "determinant::ByOrder"},          {"Det", "", "", "determinant::Element"},
     {"Invert", "ma", "32f", "inverse::ContiguousArray32"}, {"Invert", "", "32f 32f_L", "inverse::Contiguous32"},
     {"Invert", "", "64f 64f_L", "inverse::Contiguous64"},  {"Invert", "", "", "inverse::AnyStride"},
+    {"EigenValuesSym", "m", "", "symmetric::Values"},
+    {"EigenValuesSym", "ma", "32f", "symmetric::ValuesAtSmallDeterminants"},
+    {"EigenValuesSym", "ma", "32f_L 64f 64f_L", "symmetric::ValuesOfContiguousArray"},
+    {"EigenValuesSym", "ma", "", "symmetric::ValuesOfArray"},
+    {"EigenValuesVectorsSym", "m", "32f_S2", "symmetric::VectorsJudgedFirst"},
+    {"EigenValuesVectorsSym", "m", "", "symmetric::VectorsSortedFirst"},
+    {"EigenValuesVectorsSym", "ma", "", "symmetric::VectorsOfArray"},
 };
 
 /// Array functions that stay serial although their kin have a driver.
