@@ -18,6 +18,11 @@
  * Every function returns zelStsOk or a negative status. Bad arguments (a null pointer, a count or size below 1, a bad stride or
  * byte shift, sizes that do not agree) are refused with nothing written; the docstrings name what else can be returned.
  * In formulas k runs over the objects, i over rows, j over columns; A and B (a and b) are the sources, D (d) the destination.
+ *
+ * Fixed sizes: v2, v3, v4 are 2, 3, 4 consecutive floats, m4 is a matrix of 16 floats row by row, M[4*i + j]. These functions check
+ * nothing, null pointers included, and return zelStsOk unless their text says otherwise. Points are row vectors, p' = p M: a
+ * translation is in M[12], M[13], M[14], and A * B is A first, then B.
+ *
  * All functions may be called from any thread at any time. Large arrays are divided among the threads that zelcore.h sets.
  */
 #ifndef ZELM_H
@@ -289,6 +294,15 @@ ZelStatus zelmAdd_tt_64f(const double* pSrc1, int src1Stride1, int src1Stride2, 
 ZelStatus zelmAdd_tt_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift, int width, int height);
 
+/** d(j) = a(j) + b(j); D may be a source. */
+ZelStatus zelmAdd_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) + b(j); D may be a source. */
+ZelStatus zelmAdd_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) + b(j); D may be a source. */
+ZelStatus zelmAdd_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
 /** d[k](j) = a[k](j) + val; vectors of width elements. */
 ZelStatus zelmAdd_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
     int dstStride2, int width, int count);
@@ -445,6 +459,96 @@ ZelStatus zelmAdd_vv_64f(const double* pSrc1, int src1Stride2, const double* pSr
 ZelStatus zelmAdd_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift, int width);
 
+/* ---- AffineTransform3DH ---- */
+
+/** column vectors: (x', y', z', w') = M (x, y, z, 1), D[k] = (x', y', z') * (1 / w'). Where |w'| is not above 2^-126,
+    D[k] is three times the largest float, and the status tells it at the end; D may be src2; M 4 x 4; points of 3
+    elements. May return zelStsDivideByZero. */
+ZelStatus zelmAffineTransform3DH_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, const float* pSrc2,
+    int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
+
+/* ---- AffineTransformCoord ---- */
+
+/** the point A * M divided by its fourth element w, as many floats as A has; v2 counts as (x, y, 0, 1), v3 as (x, y,
+    z, 1). w = 0 gives infinities or NaNs; D may be A. */
+ZelStatus zelmAffineTransformCoord_m4v2_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** the points A[k] * M divided by their fourth elements w, as many floats as A[k] has; v2 counts as (x, y, 0, 1), v3
+    as (x, y, z, 1). w = 0 gives infinities or NaNs; strides of any size and sign; a count below 1 does nothing;
+    D[k] may be A[k]. */
+ZelStatus zelmAffineTransformCoord_m4v2a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/** the point A * M divided by its fourth element w, as many floats as A has; v2 counts as (x, y, 0, 1), v3 as (x, y,
+    z, 1). w = 0 gives infinities or NaNs; D may be A. */
+ZelStatus zelmAffineTransformCoord_m4v3_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** the points A[k] * M divided by their fourth elements w, as many floats as A[k] has; v2 counts as (x, y, 0, 1), v3
+    as (x, y, z, 1). w = 0 gives infinities or NaNs; strides of any size and sign; a count below 1 does nothing;
+    D[k] may be A[k]. */
+ZelStatus zelmAffineTransformCoord_m4v3a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/* ---- AffineTransformNormal ---- */
+
+/** the direction A times the upper left block of M as it stands, as many floats as A has: no translation, no inverse
+    transpose, no unit length; D may be A. */
+ZelStatus zelmAffineTransformNormal_m4v2_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** the directions A[k] times the upper left block of M as it stands, as many floats as A[k] has: no translation, no
+    inverse transpose, no unit length; strides of any size and sign; a count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransformNormal_m4v2a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/** the direction A times the upper left block of M as it stands, as many floats as A has: no translation, no inverse
+    transpose, no unit length; D may be A. */
+ZelStatus zelmAffineTransformNormal_m4v3_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** the directions A[k] times the upper left block of M as it stands, as many floats as A[k] has: no translation, no
+    inverse transpose, no unit length; strides of any size and sign; a count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransformNormal_m4v3a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/* ---- AffineTransform ---- */
+
+/** D = A * M, 4 floats; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1). */
+ZelStatus zelmAffineTransform_m4v2_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** D[k] = A[k] * M, 4 floats each; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1); strides of any size and sign; a
+    count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransform_m4v2a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/** D = A * M, 4 floats; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1). */
+ZelStatus zelmAffineTransform_m4v3_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** D[k] = A[k] * M, 4 floats each; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1); strides of any size and sign; a
+    count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransform_m4v3a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/** D = A * M, 4 floats; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1). */
+ZelStatus zelmAffineTransform_m4v4_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** D[k] = A[k] * M, 4 floats each; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1); strides of any size and sign; a
+    count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransform_m4v4a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/* ---- BaryCentric ---- */
+
+/** D = (B - A) weight1 + A + (C - A) weight2, summed in this order; D may be a source. */
+ZelStatus zelmBaryCentric_v2_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float weight1,
+    float weight2, float* pDst);
+
+/** D = (B - A) weight1 + A + (C - A) weight2, summed in this order; D may be a source. */
+ZelStatus zelmBaryCentric_v3_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float weight1,
+    float weight2, float* pDst);
+
+/** D = (B - A) weight1 + A + (C - A) weight2, summed in this order; D may be a source. */
+ZelStatus zelmBaryCentric_v4_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float weight1,
+    float weight2, float* pDst);
+
 /* ---- Copy ---- */
 
 /** D[k](i, j) = A[k](i, j); objects of height x width. */
@@ -591,6 +695,34 @@ ZelStatus zelmCopy_va_64f_SP(const double* pSrc, int srcStride0, int srcStride2,
 ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
+/* ---- CrossProduct ---- */
+
+/** *pDst = a(0) b(1) - a(1) b(0), one float. */
+ZelStatus zelmCrossProduct_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** D = A x B; D must not be a source: each element is stored before the next is computed. */
+ZelStatus zelmCrossProduct_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** D orthogonal to A, B and C: d(0) = det of elements 1 2 3 of the three, d(1) = - det of 0 2 3, d(2) = det of 0 1 3,
+    d(3) = - det of 0 1 2; D must not be a source: each element is stored before the next is computed. */
+ZelStatus zelmCrossProduct_v4_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float* pDst);
+
+/* ---- Det ---- */
+
+/** *pDst = det(A), one float, expanded along the first row. */
+ZelStatus zelmDet_m4_32f(const float* pSrc, float* pDst);
+
+/* ---- DotProduct ---- */
+
+/** *pDst = a(0) b(0) + a(1) b(1) + ..., one float, summed in this order. */
+ZelStatus zelmDotProduct_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** *pDst = a(0) b(0) + a(1) b(1) + ..., one float, summed in this order. */
+ZelStatus zelmDotProduct_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** *pDst = a(0) b(0) + a(1) b(1) + ..., one float, summed in this order. */
+ZelStatus zelmDotProduct_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
 /* ---- Extract ---- */
 
 /** pDst[(k*height + i)*width + j] = A(i, j); packed block: height x width. */
@@ -703,6 +835,68 @@ ZelStatus zelmExtract_va_64f_P(const double* const* ppSrc, int srcByteShift, int
 
 /** the version record of the library; never null. */
 const ZelLibVersion* zelmGetLibVersion(void);
+
+/* ---- Hermite ---- */
+
+/** the point at s = weight, 0 to 1, of the cubic from p0 to p1 with tangents t0 and t1: D = (p0 - p1) (2 s^3 - 3 s^2)
+    + ((p0 + t0 (s - 2 s^2 + s^3)) + t1 (s^3 - s^2)), which is p0 exactly at s = 0; D may be a source. */
+ZelStatus zelmHermite_v2_32f(const float* pPoint0, const float* pTangent0, const float* pPoint1,
+    const float* pTangent1, float weight, float* pDst);
+
+/** the point at s = weight, 0 to 1, of the cubic from p0 to p1 with tangents t0 and t1: D = (p0 - p1) (2 s^3 - 3 s^2)
+    + ((p0 + t0 (s - 2 s^2 + s^3)) + t1 (s^3 - s^2)), which is p0 exactly at s = 0; D may be a source. */
+ZelStatus zelmHermite_v3_32f(const float* pPoint0, const float* pTangent0, const float* pPoint1,
+    const float* pTangent1, float weight, float* pDst);
+
+/** the point at s = weight, 0 to 1, of the cubic from p0 to p1 with tangents t0 and t1: D = (p0 - p1) (2 s^3 - 3 s^2)
+    + ((p0 + t0 (s - 2 s^2 + s^3)) + t1 (s^3 - s^2)), which is p0 exactly at s = 0; D may be a source. */
+ZelStatus zelmHermite_v4_32f(const float* pPoint0, const float* pTangent0, const float* pPoint1,
+    const float* pTangent1, float weight, float* pDst);
+
+/* ---- Identity ---- */
+
+/** D = I. */
+ZelStatus zelmIdentity_m4_32f(float* pDst);
+
+/* ---- InterpolationCatmullRom ---- */
+
+/** the point at weight, 0 to 1, of the Hermite curve from pSrc2 to pSrc3 with the tangents (pSrc3 - pSrc1) / 2 and
+    (pSrc4 - pSrc2) / 2; D may be a source. */
+ZelStatus zelmInterpolationCatmullRom_v2_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3,
+    const float* pSrc4, float weight, float* pDst);
+
+/** the point at weight, 0 to 1, of the Hermite curve from pSrc2 to pSrc3 with the tangents (pSrc3 - pSrc1) / 2 and
+    (pSrc4 - pSrc2) / 2; D may be a source. */
+ZelStatus zelmInterpolationCatmullRom_v3_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3,
+    const float* pSrc4, float weight, float* pDst);
+
+/** the point at weight, 0 to 1, of the Hermite curve from pSrc2 to pSrc3 with the tangents (pSrc3 - pSrc1) / 2 and
+    (pSrc4 - pSrc2) / 2; D may be a source. */
+ZelStatus zelmInterpolationCatmullRom_v4_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3,
+    const float* pSrc4, float weight, float* pDst);
+
+/* ---- InterpolationLinear ---- */
+
+/** D = A + (B - A) weight, which is A exactly at weight 0; D may be a source. */
+ZelStatus zelmInterpolationLinear_v2_32f(const float* pSrc1, const float* pSrc2, float weight, float* pDst);
+
+/** D = A + (B - A) weight, which is A exactly at weight 0; D may be a source. */
+ZelStatus zelmInterpolationLinear_v3_32f(const float* pSrc1, const float* pSrc2, float weight, float* pDst);
+
+/** D = A + (B - A) weight, which is A exactly at weight 0; D may be a source. */
+ZelStatus zelmInterpolationLinear_v4_32f(const float* pSrc1, const float* pSrc2, float weight, float* pDst);
+
+/* ---- Invert ---- */
+
+/** D = inverse of A, by cofactors, and *pDet = det(A) unless pDet is null; D may be A. Singular if |det(A)| < 2^-119:
+    then *pDet = 0 and D is left alone. May return zelStsSingular. */
+ZelStatus zelmInvert_m4_32f(const float* pSrc, float* pDet, float* pDst);
+
+/* ---- IsIdentity ---- */
+
+/** *pResult = 1 if A(0, 0) is 1 and at least one column of A, whichever, equals that of the identity exactly; else 0.
+    True of the identity, but not of it alone. */
+ZelStatus zelmIsIdentity_m4_32f(const float* pSrc, int* pResult);
 
 /* ---- LComb ---- */
 
@@ -934,6 +1128,28 @@ ZelStatus zelmLUDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, in
 ZelStatus zelmLUDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int* pDstIndex,
     double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
+/* ---- LenSqr ---- */
+
+/** *pDst = a(0)^2 + a(1)^2 + ..., one float, summed in this order. */
+ZelStatus zelmLenSqr_v2_32f(const float* pSrc, float* pDst);
+
+/** *pDst = a(0)^2 + a(1)^2 + ..., one float, summed in this order. */
+ZelStatus zelmLenSqr_v3_32f(const float* pSrc, float* pDst);
+
+/** *pDst = a(0)^2 + a(1)^2 + ..., one float, summed in this order. */
+ZelStatus zelmLenSqr_v4_32f(const float* pSrc, float* pDst);
+
+/* ---- Len ---- */
+
+/** *pDst = sqrt(a(0)^2 + a(1)^2 + ...), one float; infinity where a square exceeds the float range. */
+ZelStatus zelmLen_v2_32f(const float* pSrc, float* pDst);
+
+/** *pDst = sqrt(a(0)^2 + a(1)^2 + ...), one float; infinity where a square exceeds the float range. */
+ZelStatus zelmLen_v3_32f(const float* pSrc, float* pDst);
+
+/** *pDst = sqrt(a(0)^2 + a(1)^2 + ...), one float; infinity where a square exceeds the float range. */
+ZelStatus zelmLen_v4_32f(const float* pSrc, float* pDst);
+
 /* ---- LoadIdentity ---- */
 
 /** D[k](i, j) = 1 where i == j, else 0; D height x width. */
@@ -959,6 +1175,56 @@ ZelStatus zelmLoadIdentity_ma_64f_L(double* const* ppDst, int dstByteShift, int 
 /** D[k](i, j) = 1 where i == j, else 0; D height x width. */
 ZelStatus zelmLoadIdentity_ma_64f_P(double* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
     int count);
+
+/* ---- LookAtLH ---- */
+
+/** left-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to +z, pUp to the half plane
+    of +y. NaNs where pAt is the eye or pUp lies along the view. */
+ZelStatus zelmLookAtLH_m4_32f(const float* pEye, const float* pAt, const float* pUp, float* pDst);
+
+/* ---- LookAtRH ---- */
+
+/** right-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to -z, pUp to the half
+    plane of +y. NaNs where pAt is the eye or pUp lies along the view. */
+ZelStatus zelmLookAtRH_m4_32f(const float* pEye, const float* pAt, const float* pUp, float* pDst);
+
+/* ---- Max ---- */
+
+/** d(j) = a(j) > b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMax_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) > b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMax_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) > b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMax_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/* ---- Min ---- */
+
+/** d(j) = a(j) < b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMin_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) < b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMin_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) < b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMin_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/* ---- MulC ---- */
+
+/** d(j) = a(j) * val; D may be A. */
+ZelStatus zelmMulC_v2_32f(const float* pSrc, float val, float* pDst);
+
+/** d(j) = a(j) * val; D may be A. */
+ZelStatus zelmMulC_v3_32f(const float* pSrc, float val, float* pDst);
+
+/** d(j) = a(j) * val; D may be A. */
+ZelStatus zelmMulC_v4_32f(const float* pSrc, float val, float* pDst);
+
+/* ---- MulTranspose ---- */
+
+/** D = (A * B)^T, the transpose of the product; D may be a source. */
+ZelStatus zelmMulTranspose_m4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
 
 /* ---- Mul ---- */
 
@@ -1001,6 +1267,9 @@ ZelStatus zelmMul_mc_64f(const double* pSrc, int srcStride1, int srcStride2, dou
 /** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_mc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
     int dstByteShift, int width, int height);
+
+/** D = A * B, which as a transform applies A first; D may be a source. Null pointers are refused. */
+ZelStatus zelmMul_mm4x4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
 
 /** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_tac_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float val, float* pDst,
@@ -1128,6 +1397,116 @@ ZelStatus zelmMul_vca_64f_L(const double* pSrc, int srcStride2, const double* co
 ZelStatus zelmMul_vca_64f_P(const double* const* ppSrc, int srcByteShift, const double* pVal, int valStride0,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
 
+/* ---- Normalize ---- */
+
+/** d(j) = a(j) / length of A, by division; D may be A. A vector of length 0 gives NaNs. */
+ZelStatus zelmNormalize_v2_32f(const float* pSrc, float* pDst);
+
+/** d(j) = a(j) / length of A, by division; D may be A. A vector of length 0 gives NaNs. */
+ZelStatus zelmNormalize_v3_32f(const float* pSrc, float* pDst);
+
+/** d(j) = a(j) / length of A, by division; D may be A. A vector of length 0 gives NaNs. */
+ZelStatus zelmNormalize_v4_32f(const float* pSrc, float* pDst);
+
+/* ---- OrthoLH ---- */
+
+/** left-handed parallel projection of a box of viewWidth x viewHeight; z = zNear to zFar becomes 0 to 1. */
+ZelStatus zelmOrthoLH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* pDst);
+
+/* ---- OrthoOffCenterLH ---- */
+
+/** left-handed parallel projection of the box left to right, bottom to top; z = zNear to zFar becomes 0 to 1. */
+ZelStatus zelmOrthoOffCenterLH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar,
+    float* pDst);
+
+/* ---- OrthoOffCenterRH ---- */
+
+/** right-handed parallel projection of the box left to right, bottom to top; z = -zNear to -zFar becomes 0 to 1. */
+ZelStatus zelmOrthoOffCenterRH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar,
+    float* pDst);
+
+/* ---- OrthoRH ---- */
+
+/** right-handed parallel projection of a box of viewWidth x viewHeight; z = -zNear to -zFar becomes 0 to 1. */
+ZelStatus zelmOrthoRH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* pDst);
+
+/* ---- PerspectiveFovLH ---- */
+
+/** left-handed perspective by the full vertical angle fovY in radians and aspect = width / height; z = zNear to zFar
+    becomes 0 to 1 after the division by w = z. */
+ZelStatus zelmPerspectiveFovLH_m4_32f(float fovY, float aspect, float zNear, float zFar, float* pDst);
+
+/* ---- PerspectiveFovRH ---- */
+
+/** right-handed perspective by the full vertical angle fovY in radians and aspect = width / height; z = -zNear to
+    -zFar becomes 0 to 1 after the division by w = -z. */
+ZelStatus zelmPerspectiveFovRH_m4_32f(float fovY, float aspect, float zNear, float zFar, float* pDst);
+
+/* ---- PerspectiveLH ---- */
+
+/** left-handed perspective of a near plane of viewWidth x viewHeight; z = zNear to zFar becomes 0 to 1 after the
+    division by w = z. */
+ZelStatus zelmPerspectiveLH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* pDst);
+
+/* ---- PerspectiveOffCenterLH ---- */
+
+/** left-handed perspective of the window left to right, bottom to top of the near plane; z = zNear to zFar becomes 0
+    to 1 after the division by w = z. */
+ZelStatus zelmPerspectiveOffCenterLH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar,
+    float* pDst);
+
+/* ---- PerspectiveOffCenterRH ---- */
+
+/** right-handed perspective of the window left to right, bottom to top of the near plane; z = -zNear to -zFar becomes
+    0 to 1 after the division by w = -z. */
+ZelStatus zelmPerspectiveOffCenterRH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar,
+    float* pDst);
+
+/* ---- PerspectiveRH ---- */
+
+/** right-handed perspective of a near plane of viewWidth x viewHeight; z = -zNear to -zFar becomes 0 to 1 after the
+    division by w = -z. */
+ZelStatus zelmPerspectiveRH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* pDst);
+
+/* ---- Project ---- */
+
+/** a point of the world to the screen: n = A * World * View * Projection, step by step, divided by its fourth
+    element; D = (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down; D may be A. */
+ZelStatus zelmProject_m4v3_32f(const float* pProjection, const float* pView, const float* pWorld, const float* pSrc,
+    float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst);
+
+/** points of the world to the screen: n = A[k] * (World * (View * Projection)) divided by its fourth element; D[k] =
+    (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down; strides of any size and
+    sign; a count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmProject_m4v3a_32f(const float* pProjection, const float* pView, const float* pWorld, const float* pSrc,
+    int srcStride0, float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst, int dstStride0, int count);
+
+/* ---- RotationAxis ---- */
+
+/** rotation by angle radians about the axis of 3 floats, of any length but 0 (NaNs); about (0, 0, 1) it is that of
+    zelmRotationZ_m4_32f. Rodrigues' formula. */
+ZelStatus zelmRotationAxis_v3m4_32f(const float* pAxis, float angle, float* pDst);
+
+/* ---- RotationX ---- */
+
+/** rotation about the x axis by angle radians, from y towards z. */
+ZelStatus zelmRotationX_m4_32f(float angle, float* pDst);
+
+/* ---- RotationY ---- */
+
+/** rotation about the y axis by angle radians, from z towards x. */
+ZelStatus zelmRotationY_m4_32f(float angle, float* pDst);
+
+/* ---- RotationYawPitchRoll ---- */
+
+/** D = RotationZ(roll) * RotationX(pitch) * RotationY(yaw), that is roll first; radians. */
+ZelStatus zelmRotationYawPitchRoll_m4_32f(float yaw, float pitch, float roll, float* pDst);
+
+/* ---- RotationZ ---- */
+
+/** rotation about the z axis by angle radians, from x towards y: (1, 0, 0) becomes (cos, sin, 0). */
+ZelStatus zelmRotationZ_m4_32f(float angle, float* pDst);
+
 /* ---- Saxpy ---- */
 
 /** d[k](j) = a[k](j) * val + b(j); vectors of width elements. */
@@ -1223,6 +1602,11 @@ ZelStatus zelmSaxpy_vva_64f_L(const double* pSrc1, int src1Stride2, double val, 
 /** d[k](j) = a(j) * val + b[k](j); vectors of width elements. */
 ZelStatus zelmSaxpy_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, double val, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/* ---- Scaling ---- */
+
+/** D = diag(x, y, z, 1). */
+ZelStatus zelmScaling_m4_32f(float x, float y, float z, float* pDst);
 
 /* ---- Sub ---- */
 
@@ -1736,6 +2120,15 @@ ZelStatus zelmSub_tta_64f_P(const double* const* ppSrc1, int src1ByteShift, cons
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
     int count);
 
+/** d(j) = a(j) - b(j); D may be a source. */
+ZelStatus zelmSub_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) - b(j); D may be a source. */
+ZelStatus zelmSub_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) - b(j); D may be a source. */
+ZelStatus zelmSub_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
 /** d[k](j) = a[k](j) - val; vectors of width elements. */
 ZelStatus zelmSub_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
     int dstStride2, int width, int count);
@@ -1916,7 +2309,15 @@ ZelStatus zelmSub_vva_64f_L(const double* pSrc1, int src1Stride2, const double* 
 ZelStatus zelmSub_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
 
+/* ---- Translation ---- */
+
+/** p D = p + (x, y, z): the identity with x, y, z in M[12], M[13], M[14]. */
+ZelStatus zelmTranslation_m4_32f(float x, float y, float z, float* pDst);
+
 /* ---- Transpose ---- */
+
+/** D = A^T; D may be A. */
+ZelStatus zelmTranspose_m4_32f(const float* pSrc, float* pDst);
 
 /** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
 ZelStatus zelmTranspose_m_32f(const float* pSrc, int srcStride1, int srcStride2, int width, int height, float* pDst,
@@ -1957,6 +2358,22 @@ ZelStatus zelmTranspose_ma_64f_L(const double* const* ppSrc, int srcByteShift, i
 /** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
 ZelStatus zelmTranspose_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
     double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/* ---- Unproject ---- */
+
+/** a point of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ -
+    vpMinZ)) times the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. D
+    may be A; where there is no inverse D is n. May return zelStsSingular. */
+ZelStatus zelmUnproject_m4v3_32f(const float* pProjection, const float* pView, const float* pWorld, const float* pSrc,
+    float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst);
+
+/** points of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ -
+    vpMinZ)) times the inverse, taken in double, of (World * View) * Projection, divided by its fourth element.
+    Where there is no inverse nothing is written; strides of any size and sign; a count below 1 does nothing; D[k]
+    may be A[k]. May return zelStsSingular. */
+ZelStatus zelmUnproject_m4v3a_32f(const float* pProjection, const float* pView, const float* pWorld,
+    const float* pSrc, int srcStride0, float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst,
+    int dstStride0, int count);
 
 #ifdef __cplusplus
 }

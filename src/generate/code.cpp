@@ -56,7 +56,7 @@ string formula_call(const Function& f, const Kernel& k) {
     if (argument.operand < 0) add(argument.name);
     else if (argument.operand != last_operand) add(view(f, f.operands[std::size_t(last_operand = argument.operand)], k));
   }
-  string formula(f.row->formula);
+  string formula = f.formula();
   if (!k.policy.empty()) {
     if (formula.back() == '>') formula.insert(formula.size() - 1, ", " + k.policy);
     else formula += "<" + k.policy + ">";
@@ -132,7 +132,7 @@ string kernel_call(const Function& f, const Kernel& k) {
 }
 
 string entry(const Function& f) {
-  string out = "ZelStatus " + f.entry() + "(" + parameters(f) + ") {\n" + checks(f);
+  string out = "ZelStatus " + f.entry() + "(" + parameters(f) + ") {\n" + (f.validates() ? checks(f) : "");
   if (f.kernels.empty()) return out + "  return " + formula_call(f, {}) + ";\n}\n";
   const bool choice = f.contiguous_kernel();
   if (choice) out += contiguity(f);

@@ -56,6 +56,7 @@ const struct Rule {
     {"Copy Extract LoadIdentity Transpose", "ma ta va", nullptr, kNever},
     {"LUDecomp", "ma", [](auto c, auto n, auto) { return c * n * n; }, everywhere(1001)},
     {"LUBackSubst", "mva", [](auto c, auto n, auto) { return n * n + 2 * c * n; }, everywhere(701)},
+    {"AffineTransform3DH", "mva", [](auto c, auto, auto) { return 6 * c; }, {785, 785, 0, 0, 0, 0, 0, 0, 0, 0}},
     {"LUBackSubst", "mava", [](auto c, auto n, auto) { return (n + 2) * n * c; }, everywhere(1201)},
 };
 
