@@ -329,6 +329,12 @@ std::vector<string_view> words(string_view text) {
   return out;
 }
 
+string Function::formula() const {
+  string text(row->formula);
+  if (const auto at = text.find("$n"); at != string::npos) text.replace(at, 2, form.substr(form.find('v') + 1, 1));
+  return text;
+}
+
 const std::vector<Function>& functions() {
   static const std::vector<Function> all = [] {
     std::vector<Function> out;

@@ -57,6 +57,7 @@ struct Function {
   std::vector<Kernel> kernels;
 
   bool built() const { return !row->formula.empty(); }
+  std::string formula() const;  // of the row, with $n filled in
   bool array() const { return form.find('a') != std::string::npos; }
   bool validates() const { return !fixed && row->operation != "GetLibVersion"; }
   bool merges_status() const { return !row->statuses.empty(); }

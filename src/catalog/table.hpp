@@ -7,7 +7,8 @@
 //              matrix, count where none is an array. A name behind a colon is the number of columns of the stored operand
 //   cost       32-bit wrapping; c = count, w = width, h = height, n = order, or the length of a vector. Empty: always serial
 //   limits     cost at which the driver takes over: contiguous/strided for 32f 32f_L 32f_P 64f 64f_L 64f_P
-//   formula    the template that computes it. Empty: not built yet, and then no trace of the family is in the library
+//   formula    the template that computes it. Empty: not built yet, and then no trace of the family is in the library. $n: the
+//              number of elements of a fixed form's vectors
 //   meaning    documentation. $a $b $c: the source objects, $d: the destination, $a_ $b_ $d_: their elements (i, j) or (j)
 #pragma once
 #include <string_view>
@@ -51,6 +52,8 @@ inline constexpr std::string_view kMulShapes = "sources as stored: height1 x wid
 inline constexpr std::string_view kMulVectorShapes = "A height x width as stored; b src2Len elements";
 inline constexpr std::string_view kSquareShapes = "square matrices of order widthHeight";
 inline constexpr std::string_view kSolveShapes = "A of order widthHeight; b and x widthHeight elements";
+
+inline constexpr std::string_view kFixedArrays = "strides of any size and sign; a count below 1 does nothing; D[k] may be A[k]";
 
 inline constexpr Row kRows[] = {
     // Element-wise: sums and differences of objects
@@ -242,74 +245,185 @@ inline constexpr Row kRows[] = {
      Kernels::none},
 
     // Fixed-size geometry, 32f: plain pointers, nothing is checked unless said
-    {"Add", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "D = A + B", ""},
-    {"Sub", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "D = A - B", ""},
-    {"MulC", "v2 v3 v4", "pSrc val pDst", "", "", "geometry", "", "D = A * val", ""},
-    {"Min", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "D = the smaller of each pair of elements", ""},
-    {"Max", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "D = the larger of each pair of elements", ""},
-    {"LenSqr", "v2 v3 v4", "pSrc pDst", "", "", "geometry", "", "*pDst = sum of squares", ""},
-    {"Len", "v2 v3 v4", "pSrc pDst", "", "", "geometry", "", "*pDst = length", ""},
-    {"Normalize", "v2 v3 v4", "pSrc pDst", "", "", "geometry", "", "D = A / length of A", ""},
-    {"DotProduct", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "*pDst = A . B", ""},
-    {"CrossProduct", "v2", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "*pDst = a0 b1 - a1 b0", ""},
-    {"CrossProduct", "v3", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "D = A x B", ""},
-    {"CrossProduct", "v4", "pSrc1 pSrc2 pSrc3 pDst", "", "", "geometry", "", "D = A x B x C", ""},
-    {"BaryCentric", "v2 v3 v4", "pSrc1 pSrc2 pSrc3 weight1 weight2 pDst", "", "", "geometry", "",
-     "D = A + (B - A) weight1 + (C - A) weight2", ""},
-    {"Hermite", "v2 v3 v4", "pPoint0 pTangent0 pPoint1 pTangent1 weight pDst", "", "", "geometry", "",
-     "point of a Hermite curve", ""},
-    {"InterpolationLinear", "v2 v3 v4", "pSrc1 pSrc2 weight pDst", "", "", "geometry", "", "D = A + (B - A) weight", ""},
-    {"InterpolationCatmullRom", "v2 v3 v4", "pSrc1 pSrc2 pSrc3 pSrc4 weight pDst", "", "", "geometry", "",
-     "point of a Catmull-Rom curve between pSrc2 and pSrc3", ""},
-    {"Identity", "m4", "pDst", "", "", "geometry", "", "D = I", ""},
-    {"IsIdentity", "m4", "pSrc pResult", "", "", "geometry", "", "*pResult = 1 for the identity, else 0", ""},
-    {"Translation", "m4", "x y z pDst", "", "", "geometry", "", "translation by (x, y, z)", ""},
-    {"Scaling", "m4", "x y z pDst", "", "", "geometry", "", "scaling by x, y, z", ""},
-    {"RotationX", "m4", "angle pDst", "", "", "geometry", "", "rotation about the x axis; radians", ""},
-    {"RotationY", "m4", "angle pDst", "", "", "geometry", "", "rotation about the y axis; radians", ""},
-    {"RotationZ", "m4", "angle pDst", "", "", "geometry", "", "rotation about the z axis; radians", ""},
-    {"RotationAxis", "v3m4", "pAxis angle pDst", "", "", "geometry", "", "rotation about an axis; radians", ""},
-    {"RotationYawPitchRoll", "m4", "yaw pitch roll pDst", "", "", "geometry", "", "rotation by three angles; radians", ""},
-    {"LookAtLH", "m4", "pEye pAt pUp pDst", "", "", "geometry", "", "left-handed view matrix", ""},
-    {"LookAtRH", "m4", "pEye pAt pUp pDst", "", "", "geometry", "", "right-handed view matrix", ""},
-    {"PerspectiveLH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "", "left-handed perspective", ""},
-    {"PerspectiveRH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "", "right-handed perspective", ""},
-    {"PerspectiveFovLH", "m4", "fovY aspect zNear zFar pDst", "", "", "geometry", "", "left-handed perspective by angle", ""},
-    {"PerspectiveFovRH", "m4", "fovY aspect zNear zFar pDst", "", "", "geometry", "", "right-handed perspective by angle", ""},
-    {"PerspectiveOffCenterLH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry", "",
-     "left-handed off-centre perspective", ""},
-    {"PerspectiveOffCenterRH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry", "",
-     "right-handed off-centre perspective", ""},
-    {"OrthoLH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "", "left-handed orthographic", ""},
-    {"OrthoRH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "", "right-handed orthographic", ""},
-    {"OrthoOffCenterLH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry", "",
-     "left-handed off-centre orthographic", ""},
-    {"OrthoOffCenterRH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry", "",
-     "right-handed off-centre orthographic", ""},
-    {"Mul", "mm4x4", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "D = A * B; null pointers are refused", ""},
-    {"MulTranspose", "m4", "pSrc1 pSrc2 pDst", "", "", "geometry", "", "D = (A * B)^T", ""},
-    {"Transpose", "m4", "pSrc pDst", "", "", "geometry", "", "D = A^T", ""},
-    {"Det", "m4", "pSrc pDst", "", "", "geometry", "", "*pDst = det(A)", ""},
-    {"Invert", "m4", "pSrc pDet pDst", "", "", "geometry", "", "D = inverse of A; pDet may be null", "", "zelStsSingular"},
-    {"AffineTransform", "m4v2 m4v3 m4v4", "pMatrix pSrc pDst", "", "", "geometry", "", "D = A * M, 4 elements", ""},
-    {"AffineTransform", "m4v2a m4v3a m4v4a", "pMatrix pSrc srcStride0 pDst dstStride0 count", "", "", "geometry", "",
-     "D[k] = A[k] * M, 4 elements each", ""},
-    {"AffineTransformCoord", "m4v2 m4v3", "pMatrix pSrc pDst", "", "", "geometry", "", "point A * M, divided by w", ""},
-    {"AffineTransformCoord", "m4v2a m4v3a", "pMatrix pSrc srcStride0 pDst dstStride0 count", "", "", "geometry", "",
-     "points A[k] * M, divided by w", ""},
-    {"AffineTransformNormal", "m4v2 m4v3", "pMatrix pSrc pDst", "", "", "geometry", "", "direction A * M", ""},
-    {"AffineTransformNormal", "m4v2a m4v3a", "pMatrix pSrc srcStride0 pDst dstStride0 count", "", "", "geometry", "",
-     "directions A[k] * M", ""},
-    {"Project", "m4v3", "pProjection pView pWorld pSrc vpWidth vpHeight vpMinZ vpMaxZ pDst", "", "", "geometry", "",
-     "point in the world to point on the screen", ""},
+    {"Add", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "vec::add<$n>", "d(j) = a(j) + b(j); D may be a source", ""},
+    {"Sub", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "vec::subtract<$n>", "d(j) = a(j) - b(j); D may be a source",
+     ""},
+    {"MulC", "v2 v3 v4", "pSrc val pDst", "", "", "geometry", "vec::scale<$n>", "d(j) = a(j) * val; D may be A", ""},
+    {"Min", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "vec::smaller<$n>",
+     "d(j) = a(j) < b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source", ""},
+    {"Max", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "vec::larger<$n>",
+     "d(j) = a(j) > b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source", ""},
+    {"LenSqr", "v2 v3 v4", "pSrc pDst", "", "", "geometry", "vec::square<$n>",
+     "*pDst = a(0)^2 + a(1)^2 + ..., one float, summed in this order", ""},
+    {"Len", "v2 v3 v4", "pSrc pDst", "", "", "geometry", "vec::length<$n>",
+     "*pDst = sqrt(a(0)^2 + a(1)^2 + ...), one float; infinity where a square exceeds the float range", ""},
+    {"Normalize", "v2 v3 v4", "pSrc pDst", "", "", "geometry", "vec::normalize<$n>",
+     "d(j) = a(j) / length of A, by division; D may be A. A vector of length 0 gives NaNs", ""},
+    {"DotProduct", "v2 v3 v4", "pSrc1 pSrc2 pDst", "", "", "geometry", "vec::dot_product<$n>",
+     "*pDst = a(0) b(0) + a(1) b(1) + ..., one float, summed in this order", ""},
+    {"CrossProduct", "v2", "pSrc1 pSrc2 pDst", "", "", "geometry", "vec::cross2", "*pDst = a(0) b(1) - a(1) b(0), one float",
+     ""},
+    {"CrossProduct", "v3", "pSrc1 pSrc2 pDst", "", "", "geometry", "vec::cross3",
+     "D = A x B; D must not be a source: each element is stored before the next is computed", ""},
+    {"CrossProduct", "v4", "pSrc1 pSrc2 pSrc3 pDst", "", "", "geometry", "vec::cross4",
+     "D orthogonal to A, B and C: d(0) = det of elements 1 2 3 of the three, d(1) = - det of 0 2 3, d(2) = det of 0 1 3, "
+     "d(3) = - det of 0 1 2; D must not be a source: each element is stored before the next is computed",
+     ""},
+    {"BaryCentric", "v2 v3 v4", "pSrc1 pSrc2 pSrc3 weight1 weight2 pDst", "", "", "geometry", "vec::barycentric<$n>",
+     "D = (B - A) weight1 + A + (C - A) weight2, summed in this order; D may be a source", ""},
+    {"Hermite", "v2 v3 v4", "pPoint0 pTangent0 pPoint1 pTangent1 weight pDst", "", "", "geometry", "vec::hermite<$n>",
+     "the point at s = weight, 0 to 1, of the cubic from p0 to p1 with tangents t0 and t1: D = (p0 - p1) (2 s^3 - 3 s^2) + "
+     "((p0 + t0 (s - 2 s^2 + s^3)) + t1 (s^3 - s^2)), which is p0 exactly at s = 0; D may be a source",
+     ""},
+    {"InterpolationLinear", "v2 v3 v4", "pSrc1 pSrc2 weight pDst", "", "", "geometry", "vec::linear<$n>",
+     "D = A + (B - A) weight, which is A exactly at weight 0; D may be a source", ""},
+    {"InterpolationCatmullRom", "v2 v3 v4", "pSrc1 pSrc2 pSrc3 pSrc4 weight pDst", "", "", "geometry", "vec::catmull_rom<$n>",
+     "the point at weight, 0 to 1, of the Hermite curve from pSrc2 to pSrc3 with the tangents (pSrc3 - pSrc1) / 2 and "
+     "(pSrc4 - pSrc2) / 2; D may be a source",
+     ""},
+    {"Identity", "m4", "pDst", "", "", "geometry", "build::identity", "D = I", ""},
+    {"IsIdentity", "m4", "pSrc pResult", "", "", "geometry", "build::is_identity",
+     "*pResult = 1 if A(0, 0) is 1 and at least one column of A, whichever, equals that of the identity exactly; else 0. True "
+     "of the "
+     "identity, but not of it alone",
+     ""},
+    {"Translation", "m4", "x y z pDst", "", "", "geometry", "build::translation",
+     "p D = p + (x, y, z): the identity with x, y, z in M[12], M[13], M[14]", ""},
+    {"Scaling", "m4", "x y z pDst", "", "", "geometry", "build::scaling", "D = diag(x, y, z, 1)", ""},
+    {"RotationX", "m4", "angle pDst", "", "", "geometry", "build::rotation_x",
+     "rotation about the x axis by angle radians, from y towards z", ""},
+    {"RotationY", "m4", "angle pDst", "", "", "geometry", "build::rotation_y",
+     "rotation about the y axis by angle radians, from z towards x", ""},
+    {"RotationZ", "m4", "angle pDst", "", "", "geometry", "build::rotation_z",
+     "rotation about the z axis by angle radians, from x towards y: (1, 0, 0) becomes (cos, sin, 0)", ""},
+    {"RotationAxis", "v3m4", "pAxis angle pDst", "", "", "geometry", "build::rotation_axis",
+     "rotation by angle radians about the axis of 3 floats, of any length but 0 (NaNs); about (0, 0, 1) it is that of "
+     "zelmRotationZ_m4_32f. Rodrigues' formula",
+     ""},
+    {"RotationYawPitchRoll", "m4", "yaw pitch roll pDst", "", "", "geometry", "build::rotation_yaw_pitch_roll",
+     "D = RotationZ(roll) * RotationX(pitch) * RotationY(yaw), that is roll first; radians", ""},
+    {"LookAtLH", "m4", "pEye pAt pUp pDst", "", "", "geometry", "build::look_at<LeftHanded>",
+     "left-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to +z, pUp to the half plane of "
+     "+y. NaNs "
+     "where pAt is the eye or pUp lies along the view",
+     ""},
+    {"LookAtRH", "m4", "pEye pAt pUp pDst", "", "", "geometry", "build::look_at<RightHanded>",
+     "right-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to -z, pUp to the half plane of "
+     "+y. NaNs "
+     "where pAt is the eye or pUp lies along the view",
+     ""},
+    {"PerspectiveLH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "build::perspective<LeftHanded>",
+     "left-handed perspective of a near plane of viewWidth x viewHeight; "
+     "z = zNear to zFar becomes 0 to 1 after the division by w = z",
+     ""},
+    {"PerspectiveFovLH", "m4", "fovY aspect zNear zFar pDst", "", "", "geometry", "build::perspective_fov<LeftHanded>",
+     "left-handed perspective by the full vertical angle fovY in radians and aspect = width / height; "
+     "z = zNear to zFar becomes 0 to 1 after the division by w = z",
+     ""},
+    {"PerspectiveOffCenterLH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry",
+     "build::perspective_off_center<LeftHanded>",
+     "left-handed perspective of the window left to right, bottom to top of the near plane; "
+     "z = zNear to zFar becomes 0 to 1 after the division by w = z",
+     ""},
+    {"OrthoLH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "build::ortho<LeftHanded>",
+     "left-handed parallel projection of a box of viewWidth x viewHeight; "
+     "z = zNear to zFar becomes 0 to 1",
+     ""},
+    {"OrthoOffCenterLH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry",
+     "build::ortho_off_center<LeftHanded>",
+     "left-handed parallel projection of the box left to right, bottom to top; "
+     "z = zNear to zFar becomes 0 to 1",
+     ""},
+    {"PerspectiveRH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "build::perspective<RightHanded>",
+     "right-handed perspective of a near plane of viewWidth x viewHeight; "
+     "z = -zNear to -zFar becomes 0 to 1 after the division by w = -z",
+     ""},
+    {"PerspectiveFovRH", "m4", "fovY aspect zNear zFar pDst", "", "", "geometry", "build::perspective_fov<RightHanded>",
+     "right-handed perspective by the full vertical angle fovY in radians and aspect = width / height; "
+     "z = -zNear to -zFar becomes 0 to 1 after the division by w = -z",
+     ""},
+    {"PerspectiveOffCenterRH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry",
+     "build::perspective_off_center<RightHanded>",
+     "right-handed perspective of the window left to right, bottom to top of the near plane; "
+     "z = -zNear to -zFar becomes 0 to 1 after the division by w = -z",
+     ""},
+    {"OrthoRH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "build::ortho<RightHanded>",
+     "right-handed parallel projection of a box of viewWidth x viewHeight; "
+     "z = -zNear to -zFar becomes 0 to 1",
+     ""},
+    {"OrthoOffCenterRH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry",
+     "build::ortho_off_center<RightHanded>",
+     "right-handed parallel projection of the box left to right, bottom to top; "
+     "z = -zNear to -zFar becomes 0 to 1",
+     ""},
+    {"Mul", "mm4x4", "pSrc1 pSrc2 pDst", "", "", "geometry", "m4::mul",
+     "D = A * B, which as a transform applies A first; D may be a source. Null pointers are refused", ""},
+    {"MulTranspose", "m4", "pSrc1 pSrc2 pDst", "", "", "geometry", "m4::mul_transposed",
+     "D = (A * B)^T, the transpose of the product; D may be a source", ""},
+    {"Transpose", "m4", "pSrc pDst", "", "", "geometry", "m4::transpose", "D = A^T; D may be A", ""},
+    {"Det", "m4", "pSrc pDst", "", "", "geometry", "m4::determinant", "*pDst = det(A), one float, expanded along the first row",
+     ""},
+    {"Invert", "m4", "pSrc pDet pDst", "", "", "geometry", "m4::invert",
+     "D = inverse of A, by cofactors, and *pDet = det(A) unless pDet is null; D may be A. Singular if |det(A)| < 2^-119: then "
+     "*pDet = "
+     "0 and D is left alone",
+     "", "zelStsSingular"},
+    {"AffineTransform", "m4v2 m4v3 m4v4", "pMatrix pSrc pDst", "", "", "geometry", "transform::one<Affine<$n>>",
+     "D = A * M, 4 floats; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1)", ""},
+    {"AffineTransform", "m4v2a m4v3a m4v4a", "pMatrix pSrc srcStride0 pDst dstStride0 count", "", "", "geometry",
+     "transform::array<Affine<$n>>", "D[k] = A[k] * M, 4 floats each; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1)",
+     kFixedArrays},
+    {"AffineTransformCoord", "m4v2 m4v3", "pMatrix pSrc pDst", "", "", "geometry", "transform::one<Coord<$n>>",
+     "the point A * M divided by its fourth element w, as many floats as A has; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1). "
+     "w = 0 "
+     "gives infinities or NaNs; D may be A",
+     ""},
+    {"AffineTransformCoord", "m4v2a m4v3a", "pMatrix pSrc srcStride0 pDst dstStride0 count", "", "", "geometry",
+     "transform::array<Coord<$n>>",
+     "the points A[k] * M divided by their fourth elements w, as many floats as A[k] has; v2 counts as (x, y, 0, 1), v3 as "
+     "(x, y, z, 1). w = 0 gives infinities or NaNs",
+     kFixedArrays},
+    {"AffineTransformNormal", "m4v2 m4v3", "pMatrix pSrc pDst", "", "", "geometry", "transform::one<Normal<$n>>",
+     "the direction A times the upper left block of M as it stands, as many floats as A has: no translation, no inverse "
+     "transpose, no "
+     "unit length; D may be A",
+     ""},
+    {"AffineTransformNormal", "m4v2a m4v3a", "pMatrix pSrc srcStride0 pDst dstStride0 count", "", "", "geometry",
+     "transform::array<Normal<$n>>",
+     "the directions A[k] times the upper left block of M as it stands, as many floats as A[k] has: no translation, no inverse "
+     "transpose, no unit length",
+     kFixedArrays},
+    {"Project", "m4v3", "pProjection pView pWorld pSrc vpWidth vpHeight vpMinZ vpMaxZ pDst", "", "", "geometry",
+     "transform::project",
+     "a point of the world to the screen: n = A * World * View * Projection, step by step, divided by its fourth element; "
+     "D = (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down; D may be A",
+     ""},
     {"Project", "m4v3a", "pProjection pView pWorld pSrc srcStride0 vpWidth vpHeight vpMinZ vpMaxZ pDst dstStride0 count", "",
-     "", "geometry", "", "points in the world to points on the screen", ""},
-    {"Unproject", "m4v3", "pProjection pView pWorld pSrc vpWidth vpHeight vpMinZ vpMaxZ pDst", "", "", "geometry", "",
-     "point on the screen to point in the world", "", "zelStsSingular"},
+     "", "geometry", "transform::project_array",
+     "points of the world to the screen: n = A[k] * (World * (View * Projection)) divided by its fourth element; "
+     "D[k] = (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down",
+     kFixedArrays},
+    {"Unproject", "m4v3", "pProjection pView pWorld pSrc vpWidth vpHeight vpMinZ vpMaxZ pDst", "", "", "geometry",
+     "transform::unproject",
+     "a point of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ - "
+     "vpMinZ)) times "
+     "the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. D may be A; where there is "
+     "no "
+     "inverse D is n",
+     "", "zelStsSingular"},
     {"Unproject", "m4v3a", "pProjection pView pWorld pSrc srcStride0 vpWidth vpHeight vpMinZ vpMaxZ pDst dstStride0 count", "",
-     "", "geometry", "", "points on the screen to points in the world", "", "zelStsSingular"},
-    {"AffineTransform3DH", "mva", "src1 src2 dst count", "6*c", "785/785", "geometry", "",
-     "(x', y', z', w') = M (x, y, z, 1); D[k] = (x', y', z') / w'", "M 4 x 4; points of 3 elements", "zelStsDivideByZero"},
+     "", "geometry", "transform::unproject_array",
+     "points of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ - "
+     "vpMinZ)) times "
+     "the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. Where there is no inverse "
+     "nothing "
+     "is written",
+     kFixedArrays, "zelStsSingular"},
+    {"AffineTransform3DH", "mva", "src1 src2 dst count", "6*c", "785/785", "geometry", "homogeneous::transform",
+     "column vectors: (x', y', z', w') = M (x, y, z, 1), D[k] = (x', y', z') * (1 / w'). Where |w'| is not above 2^-126, D[k] "
+     "is three "
+     "times the largest float, and the status tells it at the end; D may be src2",
+     "M 4 x 4; points of 3 elements", "zelStsDivideByZero"},
     {"GetLibVersion", "", "", "", "", "frame", "version", "the version record of the library; never null", "", "", "", "",
      Kernels::none},
 };
@@ -416,6 +530,8 @@ inline constexpr Variant kVariants[] = {
     {"EigenValuesVectorsSym", "m", "32f_S2", "symmetric::VectorsJudgedFirst"},
     {"EigenValuesVectorsSym", "m", "", "symmetric::VectorsSortedFirst"},
     {"EigenValuesVectorsSym", "ma", "", "symmetric::VectorsOfArray"},
+    {"AffineTransform3DH", "", "32f", "InPairs"},
+    {"AffineTransform3DH", "", "32f_S2", "InTurn"},
 };
 
 /// Array functions that stay serial although their kin have a driver.

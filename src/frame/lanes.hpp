@@ -84,12 +84,25 @@ ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const Pack<float> (&run)[3
 ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const float* p) {
   packed_to_lanes(e, {Pack<float>::load(p), Pack<float>::load(p + 4), Pack<float>::load(p + 8)});
 }
+template <bool streamed = false>
 ZELM_INLINE void lanes_to_packed(const Pack<float> (&e)[3], float* p) {
   const __m128 x = e[0].raw, y = e[1].raw, z = e[2].raw;
   const __m128 x0x2y0y2 = shuffle<0x88>(x, y), y1y3z1z3 = shuffle<0xdd>(y, z), z0z2x1x3 = shuffle<0xd8>(z, x);
-  _mm_storeu_ps(p, shuffle<0x88>(x0x2y0y2, z0z2x1x3));
-  _mm_storeu_ps(p + 4, shuffle<0xd8>(y1y3z1z3, x0x2y0y2));
-  _mm_storeu_ps(p + 8, shuffle<0xdd>(z0z2x1x3, y1y3z1z3));
+  put<streamed>(Pack<float>{shuffle<0x88>(x0x2y0y2, z0z2x1x3)}, p);
+  put<streamed>(Pack<float>{shuffle<0xd8>(y1y3z1z3, x0x2y0y2)}, p + 4);
+  put<streamed>(Pack<float>{shuffle<0xdd>(z0z2x1x3, y1y3z1z3)}, p + 8);
+}
+
+/// Four vectors of two elements.
+ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[2], const float* p) {
+  const __m128 a = _mm_loadu_ps(p), b = _mm_loadu_ps(p + 4);
+  e[0].raw = shuffle<0x88>(a, b);
+  e[1].raw = shuffle<0xdd>(a, b);
+}
+template <bool streamed = false>
+ZELM_INLINE void lanes_to_packed(const Pack<float> (&e)[2], float* p) {
+  put<streamed>(Pack<float>{_mm_unpacklo_ps(e[0].raw, e[1].raw)}, p);
+  put<streamed>(Pack<float>{_mm_unpackhi_ps(e[0].raw, e[1].raw)}, p + 4);
 }
 
 /// Row rows(l) of the object in lane l.

@@ -56,6 +56,7 @@ string formula_call(const Function& f, string formula, const Kernel& k) {
     if (argument.operand < 0) add(argument.name);
     else if (argument.operand != last_operand) add(view(f, f.operands[std::size_t(last_operand = argument.operand)], k));
   }
+  string formula = f.formula();
   if (!k.policy.empty()) {
     if (formula.back() == '>') formula.insert(formula.size() - 1, ", " + k.policy);
     else formula += "<" + k.policy + ">";
@@ -140,6 +141,8 @@ string entry(const Function& f) {
   if (f.kernels.empty()) return out + "  return " + formula_call(f, string(f.row->formula), {}) + ";\n}\n";
   if (!f.row->order_one.empty())
     out += "  if (widthHeight == 1) return " + formula_call(f, string(f.row->order_one), {}) + ";\n";
+  string out = "ZelStatus " + f.entry() + "(" + parameters(f) + ") {\n" + (f.validates() ? checks(f) : "");
+  if (f.kernels.empty()) return out + "  return " + formula_call(f, {}) + ";\n}\n";
   const bool choice = f.contiguous_kernel();
   if (choice) out += contiguity(f);
   if (!f.cost.empty()) {

@@ -30,6 +30,11 @@ const char* const kPreamble =
  * Every function returns zelStsOk or a negative status. Bad arguments (a null pointer, a count or size below 1, a bad stride or
  * byte shift, sizes that do not agree) are refused with nothing written; the docstrings name what else can be returned.
  * In formulas k runs over the objects, i over rows, j over columns; A and B (a and b) are the sources, D (d) the destination.
+ *
+ * Fixed sizes: v2, v3, v4 are 2, 3, 4 consecutive floats, m4 is a matrix of 16 floats row by row, M[4*i + j]. These functions check
+ * nothing, null pointers included, and return zelStsOk unless their text says otherwise. Points are row vectors, p' = p M: a
+ * translation is in M[12], M[13], M[14], and A * B is A first, then B.
+ *
  * All functions may be called from any thread at any time. Large arrays are divided among the threads that zelcore.h sets.
  */
 #ifndef ZELM_H
