@@ -56,7 +56,6 @@ string formula_call(const Function& f, string formula, const Kernel& k) {
     if (argument.operand < 0) add(argument.name);
     else if (argument.operand != last_operand) add(view(f, f.operands[std::size_t(last_operand = argument.operand)], k));
   }
-  string formula = f.formula();
   if (!k.policy.empty()) {
     if (formula.back() == '>') formula.insert(formula.size() - 1, ", " + k.policy);
     else formula += "<" + k.policy + ">";
@@ -69,8 +68,8 @@ string driver_parameters(const Function& f) {
 }
 
 string kernel(const Function& f, const Kernel& k) {
-  return "ZelStatus " + k.symbol + "(" + kernel_parameters(f, k) + ") {\n  return " +
-         formula_call(f, string(f.row->formula), k) + ";\n}\n";
+  return "ZelStatus " + k.symbol + "(" + kernel_parameters(f, k) + ") {\n  return " + formula_call(f, f.formula(), k) +
+         ";\n}\n";
 }
 
 // Entries
@@ -137,12 +136,10 @@ string kernel_call(const Function& f, const Kernel& k) {
 }
 
 string entry(const Function& f) {
-  string out = "ZelStatus " + f.entry() + "(" + parameters(f) + ") {\n" + checks(f);
-  if (f.kernels.empty()) return out + "  return " + formula_call(f, string(f.row->formula), {}) + ";\n}\n";
+  string out = "ZelStatus " + f.entry() + "(" + parameters(f) + ") {\n" + (f.validates() ? checks(f) : "");
+  if (f.kernels.empty()) return out + "  return " + formula_call(f, f.formula(), {}) + ";\n}\n";
   if (!f.row->order_one.empty())
     out += "  if (widthHeight == 1) return " + formula_call(f, string(f.row->order_one), {}) + ";\n";
-  string out = "ZelStatus " + f.entry() + "(" + parameters(f) + ") {\n" + (f.validates() ? checks(f) : "");
-  if (f.kernels.empty()) return out + "  return " + formula_call(f, {}) + ";\n}\n";
   const bool choice = f.contiguous_kernel();
   if (choice) out += contiguity(f);
   if (!f.cost.empty()) {

@@ -85,9 +85,7 @@ const struct Rule {
      {7501, 7501, 2001, 2001, 2001, 2001, 2001, 721, 2001, 2001}},
     {"CholeskyBackSubst", "mva", kOneFactor, {1201, 1201, 721, 721, 721, 721, 721, 721, 721, 721}},
     {"CholeskyBackSubst", "mava", kOwnFactors, {2051, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 2051}},
-    {"LUBackSubst", "mva", [](auto c, auto n, auto) { return n * n + 2 * c * n; }, everywhere(701)},
     {"AffineTransform3DH", "mva", [](auto c, auto, auto) { return 6 * c; }, {785, 785, 0, 0, 0, 0, 0, 0, 0, 0}},
-    {"LUBackSubst", "mava", [](auto c, auto n, auto) { return (n + 2) * n * c; }, everywhere(1201)},
 };
 
 const Rule* rule_of(const Function& f) {
