@@ -6,8 +6,8 @@
 // source, vector by vector.
 #pragma once
 #include "frame/lanes.hpp"
-#include "geometry/inverse4.hpp"
 #include "geometry/m4.hpp"
+#include "solvers/inverse_kernels.hpp"
 
 namespace zelm::geometry {
 
@@ -248,7 +248,7 @@ ZELM_INLINE ZelStatus inverse_view(const float* projection, const float* view, c
   double wide[16];
   for (int e = 0; e < 16; ++e) wide[e] = m[e];
   double inverse[16];
-  if (const ZelStatus status = invert4(wide, inverse); status != zelStsOk) return status;
+  if (const ZelStatus status = p8_ownzelmInvert_m_64f_4x4(wide, 32, inverse, 32); status != zelStsOk) return status;
   return p8_own3dConvert64f32f_16(inverse, d);
 }
 
