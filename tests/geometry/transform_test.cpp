@@ -7,7 +7,7 @@
 
 #include "frame/interpose.hpp"
 #include "geometry/fixed.hpp"
-#include "geometry/inverse4.hpp"
+#include "solvers/inverse_kernels.hpp"
 #include "internals.hpp"
 #include "zelm.h"
 
@@ -321,7 +321,7 @@ ZelStatus inverse_view(const View& v, M& to) {
   const M t = product(product(v.world, v.view), v.projection);
   double wide[16], inverse[16];
   for (std::size_t e = 0; e < 16; ++e) wide[e] = t[e];
-  if (const ZelStatus status = geometry::invert4(wide, inverse); status != zelStsOk) return status;
+  if (const ZelStatus status = p8_ownzelmInvert_m_64f_4x4(wide, 32, inverse, 32); status != zelStsOk) return status;
   for (std::size_t e = 0; e < 16; ++e) to[e] = float(inverse[e]);
   return zelStsOk;
 }
