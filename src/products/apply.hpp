@@ -3,6 +3,8 @@
 // Which kernel sums in which order is part of its contract: `Sums` names the order of the sizes 3 x 3 to 6 x 6 and that of all
 // others. dst must lie apart from the sources.
 #pragma once
+#include <utility>
+
 #include "products/apply_fixed.hpp"
 #include "zelm_types.h"
 
@@ -65,8 +67,7 @@ ZELM_INLINE void fixed(const A& a, const B& b, const C& c, const D& d, int count
   if constexpr (!D::array) {
     in_columns<Order, N>(columns(), b, c, d, 1);
   } else if constexpr (!contiguous) {
-    if (b.interleaved() || d.interleaved()) in_lanes<Order, N, turned, true>(a, b, c, d, count);
-    else in_lanes<Order, N, turned, false>(a, b, c, d, count);
+    in_any_memory<N, turned>(a, b, c, d, count);
   } else if constexpr (A::array && turned) {
     in_columns<Order, N>(a, b, c, d, count);
   } else if constexpr (N % 2 == 0 && !std::is_same_v<Order, Ascending>) {
@@ -101,8 +102,8 @@ struct Rows {
 struct OneByOne {
   template <bool turned, class A, class X, class Y, class D>
   static ZELM_INLINE void one(const A& a, const X& x, const Y& y, const D& d, int rows, int length) {
-    if constexpr (turned) one_by_one(TransposedObject<A>{a}, x, y, d, rows, length);
-    else one_by_one(a, x, y, d, rows, length);
+    if constexpr (turned) one_by_one<true>(TransposedObject<A>{a}, x, y, d, rows, length);
+    else one_by_one<true>(a, x, y, d, rows, length);
   }
 };
 
@@ -167,8 +168,15 @@ struct Singles {
 
 template <class S, class A, class B, class D>
 ZELM_INLINE ZelStatus mul(A a, int width, int height, B b, int /*length*/, D d, int count) {
-  if constexpr (requires { a.stored; }) S::template run<true>(a.stored, width, height, b, None{}, d, count);
-  else S::template run<false>(a, width, height, b, None{}, d, count);
+  if constexpr (requires { a.stored.element_stride; } && !A::Object::turned && !std::is_same_v<S, Singles>) {
+    // Of a matrix of any element stride the transpose is one with its strides exchanged.
+    std::swap(a.stored.row_stride, a.stored.element_stride);
+    S::template run<false>(a.stored, height, width, b, None{}, d, count);
+  } else if constexpr (requires { a.stored; }) {
+    S::template run<true>(a.stored, width, height, b, None{}, d, count);
+  } else {
+    S::template run<false>(a, width, height, b, None{}, d, count);
+  }
   return zelStsOk;
 }
 

@@ -29,17 +29,15 @@ ZELM_INLINE V plus_element(V sum, const Y& y, int i) {
   else return sum + y.element(0, i);
 }
 
-/// One by one.
-template <class A, class X, class Y, class D>
-ZELM_INLINE void one_sum(const A& a, const X& x, const Y& y, const D& d, int i, int length) {
-  typename D::T sum = 0;
-  ZELM_AS_IT_STANDS for (int k = 0; k < length; ++k) sum += a.element(i, k) * x.element(0, k);
-  store(d.at(0, i), plus_element(sum, y, i));
-}
-
-template <class A, class X, class Y, class D>
+/// One by one. `zero`: from +0 on, else from the first product.
+template <bool zero, class A, class X, class Y, class D>
 __attribute__((noinline)) void one_by_one(A a, X x, Y y, D d, int rows, int length) {
-  for (int i = 0; i < rows; ++i) one_sum(a, x, y, d, i, length);
+  for (int i = 0; i < rows; ++i) {
+    const auto product = [&](int k) { return a.element(i, k) * x.element(0, k); };
+    typename D::T sum = zero ? 0 : product(0);
+    ZELM_AS_IT_STANDS for (int k = !zero; k < length; ++k) sum += product(k);
+    store(d.at(0, i), plus_element(sum, y, i));
+  }
 }
 
 /// In steps of eight, lanes gathered. Where an element of dst meets the `length` elements from the start of its row of A or of x

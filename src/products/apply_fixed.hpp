@@ -56,13 +56,21 @@ struct Batched {
 
 // Lanes are objects
 
-/// R x C elements of several objects, of an array or the one operand of a call in every lane.
+/// R x C elements of several objects, of an array or the one operand of a call in every lane. `beside`: the arrays are
+/// interleaved.
 template <int R, int C, bool beside, class View>
 struct InLanes {
   View view;
   ZELM_INLINE auto at(std::ptrdiff_t n, int valid) const {
     Lanes<typename View::T, R, C> lanes;
-    lanes.template load<beside>(view, n, valid);
+    if constexpr (beside) {
+      const auto first = view.object(n);
+      ZELM_UNROLL for (int i = 0; i < R; ++i) {
+        ZELM_UNROLL for (int j = 0; j < C; ++j) lanes.e[i][j] = Pack<typename View::T>::load(first.at(i, j));
+      }
+    } else {
+      lanes.template load<false>(view, n, valid);
+    }
     return lanes;
   }
 };
@@ -84,14 +92,14 @@ struct InLanes<R, C, beside, None> {
   ZELM_INLINE None at(std::ptrdiff_t, int) const { return {}; }
 };
 
-/// `turned`: op(A) is the transpose of what `a` holds. `beside`: arrays may be interleaved.
+/// `turned`: op(A) is the transpose of what `a` holds.
 template <class Order, int N, bool turned, bool beside, class A, class B, class C, class D>
 __attribute__((noinline)) void in_lanes(A a, B b, C c, D d, int count) {
   using P = Pack<typename D::T>;
   const InLanes<N, N, beside, A> matrices{a};
   const InLanes<1, N, beside, B> vectors{b};
   const InLanes<1, N, beside, C> addends{c};
-  for_blocks<P::lanes>(count, [&, d](std::ptrdiff_t n, auto valid) ZELM_INLINE_LAMBDA {
+  const auto block = [&, d](std::ptrdiff_t n, auto valid) ZELM_INLINE_LAMBDA {
     const auto& m = matrices.at(n, valid);
     const auto& x = vectors.at(n, valid);
     const auto& y = addends.at(n, valid);
@@ -100,8 +108,32 @@ __attribute__((noinline)) void in_lanes(A a, B b, C c, D d, int count) {
       z.e[0][i] = Order::template sum<N>(i, [&](int k) { return (turned ? m.e[k][i] : m.e[i][k]) * x.e[0][k]; });
       if constexpr (!std::is_same_v<C, None>) z.e[0][i] = z.e[0][i] + y.e[0][i];
     }
-    z.template store<beside>(d, n, valid);
-  });
+    if constexpr (beside) {
+      const auto first = d.object(n);
+      ZELM_UNROLL for (int i = 0; i < N; ++i) z.e[0][i].store(first.at(0, i));
+    } else {
+      z.template store<false>(d, n, valid);
+    }
+  };
+  if constexpr (std::is_same_v<Order, Ascending>)  // the caller does what is left
+    for (std::ptrdiff_t n = 0; n + P::lanes <= count; n += P::lanes) block(n, std::integral_constant<int, P::lanes>{});
+  else for_blocks<P::lanes>(count, block);
+}
+
+/// Any memory, in the order Ascending: lanes are objects for as many as fill them.
+template <int N, bool turned, class A, class B, class C, class D>
+ZELM_INLINE void in_any_memory(const A& a, const B& b, const C& c, const D& d, int count) {
+  constexpr int L = Pack<typename D::T>::lanes;
+  const auto beside = [](const auto& view) { return !view.array || view.interleaved(); };
+  if (count >= L) {
+    if (beside(a) && beside(b) && beside(c) && beside(d)) in_lanes<Ascending, N, turned, true>(a, b, c, d, count);
+    else in_lanes<Ascending, N, turned, false>(a, b, c, d, count);
+  }
+  for (std::ptrdiff_t n = count / L * L; n < count; ++n) {
+    if constexpr (turned)
+      one_by_one<false>(TransposedObject<typename A::Object>{a.object(n)}, b.object(n), c.object(n), d.object(n), N, N);
+    else one_by_one<false>(a.object(n), b.object(n), c.object(n), d.object(n), N, N);
+  }
 }
 
 // Lanes are elements of dst
