@@ -591,6 +591,166 @@ ZelStatus zelmCopy_va_64f_SP(const double* pSrc, int srcStride0, int srcStride2,
 ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
+/* ---- CrossProduct ---- */
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
+    int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const float* pSrc2, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const float* const* ppSrc2, int src2ByteShift, float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
+    int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const double* pSrc2, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const double* const* ppSrc2, int src2ByteShift, double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
+    int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
+    int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** d = a x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vv_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride2,
+    float* pDst, int dstStride2);
+
+/** d = a x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vv_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
+    int src2ByteShift, float* const* ppDst, int dstByteShift);
+
+/** d = a x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vv_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride2,
+    double* pDst, int dstStride2);
+
+/** d = a x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
+    int src2ByteShift, double* const* ppDst, int dstByteShift);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride0,
+    int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_32f_L(const float* pSrc1, int src1Stride2, const float* const* ppSrc2,
+    int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
+    int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride0,
+    int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_64f_L(const double* pSrc1, int src1Stride2, const double* const* ppSrc2,
+    int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
+    int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/* ---- DotProduct ---- */
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
+    int src2Stride2, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2, const float* pSrc2,
+    int src2Stride2, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const float* const* ppSrc2, int src2ByteShift, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
+    int src2Stride2, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const double* pSrc2, int src2Stride2, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const double* const* ppSrc2, int src2ByteShift, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
+    int src2Stride0, int src2Stride2, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
+    int src2Stride0, int src2Stride2, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* pDst, int width, int count);
+
+/** *pDst = sum over j of a(j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vv_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride2, float* pDst,
+    int width);
+
+/** *pDst = sum over j of a(j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vv_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
+    int src2ByteShift, float* pDst, int width);
+
+/** *pDst = sum over j of a(j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vv_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride2,
+    double* pDst, int width);
+
+/** *pDst = sum over j of a(j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
+    int src2ByteShift, double* pDst, int width);
+
 /* ---- Extract ---- */
 
 /** pDst[(k*height + i)*width + j] = A(i, j); packed block: height x width. */
@@ -699,10 +859,84 @@ ZelStatus zelmExtract_va_64f_L(const double* const* ppSrc, int srcByteShift, int
 ZelStatus zelmExtract_va_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
     int count);
 
+/* ---- FrobNorm ---- */
+
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_m_32f(const float* pSrc, int srcStride1, int srcStride2, int width, int height, float* pDst);
+
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_m_32f_P(const float* const* ppSrc, int srcByteShift, int width, int height, float* pDst);
+
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_m_64f(const double* pSrc, int srcStride1, int srcStride2, int width, int height, double* pDst);
+
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_m_64f_P(const double* const* ppSrc, int srcByteShift, int width, int height, double* pDst);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
+    int height, float* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int width, int height, float* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
+    float* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
+    int height, double* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int width, int height, double* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
+    double* pDst, int count);
+
 /* ---- GetLibVersion ---- */
 
 /** the version record of the library; never null. */
 const ZelLibVersion* zelmGetLibVersion(void);
+
+/* ---- L2Norm ---- */
+
+/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_v_32f(const float* pSrc, int srcStride2, float* pDst, int width);
+
+/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_v_32f_P(const float* const* ppSrc, int srcByteShift, float* pDst, int width);
+
+/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_v_64f(const double* pSrc, int srcStride2, double* pDst, int width);
+
+/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_v_64f_P(const double* const* ppSrc, int srcByteShift, double* pDst, int width);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_32f(const float* pSrc, int srcStride0, int srcStride2, float* pDst, int width, int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float* pDst, int width,
+    int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int width,
+    int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_64f(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int width, int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double* pDst, int width,
+    int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
+    int count);
 
 /* ---- LComb ---- */
 
@@ -1915,6 +2149,44 @@ ZelStatus zelmSub_vva_64f_L(const double* pSrc1, int src1Stride2, const double* 
 /** d[k](j) = a(j) - b[k](j); vectors of width elements. */
 ZelStatus zelmSub_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/* ---- Trace ---- */
+
+/** *pDst = sum over i of A(i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_m_32f(const float* pSrc, int srcStride1, int srcStride2, int widthHeight, float* pDst);
+
+/** *pDst = sum over i of A(i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_m_32f_P(const float* const* ppSrc, int srcByteShift, int widthHeight, float* pDst);
+
+/** *pDst = sum over i of A(i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_m_64f(const double* pSrc, int srcStride1, int srcStride2, int widthHeight, double* pDst);
+
+/** *pDst = sum over i of A(i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_m_64f_P(const double* const* ppSrc, int srcByteShift, int widthHeight, double* pDst);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
+    float* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int widthHeight, float* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
+    float* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
+    double* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int widthHeight, double* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
+    double* pDst, int count);
 
 /* ---- Transpose ---- */
 
