@@ -71,11 +71,18 @@ struct ProductsOf {
   Y y;
   ZELM_INLINE T one(int j) const { return x.element(0, j) * y.element(0, j); }
   ZELM_INLINE Pack<T> pack(int j) const { return Pack<T>::load(x.at(0, j)) * Pack<T>::load(y.at(0, j)); }
+  /// The same where lead() is 0 and j a multiple of the lanes.
+  ZELM_INLINE Pack<T> aligned_pack(int j) const { return Pack<T>::load(x.at(0, j)) * Pack<T>::load_aligned(y.at(0, j)); }
+  /// Term j in lane 0.
+  ZELM_INLINE Pack<T> first(int j) const {
+    return Pack<T>::template load_first<1>(x.at(0, j)) * Pack<T>::template load_first<1>(y.at(0, j));
+  }
   template <int N>
   ZELM_INLINE Row<T, N> row() const {
     return lanewise(Times{}, x.template row<N>(0), y.template row<N>(0));
   }
   ZELM_INLINE int lead() const { return lead_of(y); }
+  ZELM_INLINE std::uintptr_t start() const { return reinterpret_cast<std::uintptr_t>(y.at(0, 0)); }
 };
 
 template <class X>
@@ -88,12 +95,18 @@ struct SquaresOf {
     const Pack<T> a = Pack<T>::load(x.at(0, j));
     return a * a;
   }
+  ZELM_INLINE Pack<T> aligned_pack(int j) const { return pack(j); }
+  ZELM_INLINE Pack<T> first(int j) const {
+    const Pack<T> a = Pack<T>::template load_first<1>(x.at(0, j));
+    return a * a;
+  }
   template <int N>
   ZELM_INLINE Row<T, N> row() const {
     const Row<T, N> r = x.template row<N>(0);
     return lanewise(Times{}, r, r);
   }
   ZELM_INLINE int lead() const { return lead_of(x); }
+  ZELM_INLINE std::uintptr_t start() const { return reinterpret_cast<std::uintptr_t>(x.at(0, 0)); }
 };
 
 /// Element j of the objects k, k + 1, ... of an interleaved array, or of the one object.
@@ -121,6 +134,14 @@ struct Products {
   B b;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {a.object(k), b.object(k)}; }
+  template <int L>
+  ZELM_INLINE void objects(std::ptrdiff_t k, Object (&to)[L]) const {
+    typename A::Object x[L];
+    a.objects(k, L, x);
+    typename B::Object y[L];
+    if constexpr (B::array) b.objects(k, L, y);
+    ZELM_UNROLL for (int l = 0; l < L; ++l) to[l] = {x[l], B::array ? y[l] : b.object(0)};
+  }
   ZELM_INLINE bool interleaved() const { return a.interleaved() && (!B::array || b.interleaved()); }
   ZELM_INLINE bool tight(int n) const { return a.tight(1, n) && (!B::array || b.tight(1, n)); }
   ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k, int j) const { return beside(a, k, 0, j) * beside(b, k, 0, j); }
@@ -129,18 +150,19 @@ struct Products {
   template <int N>
   ZELM_INLINE auto rows() const {
     constexpr int L = Pack<T>::lanes;
-    return [a = a, second = held<1, N>(b)](std::ptrdiff_t k, Block<T, L, N>& to) ZELM_INLINE_LAMBDA {
-      typename A::Object x[L];
-      a.objects(k, L, x);
-      if constexpr (B::array) {
-        typename B::Object y[L];
-        second.objects(k, L, y);
-        ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] =
-            lanewise(Times{}, x[l].template row<N>(0), y[l].template row<N>(0));
-      } else {
-        ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] = lanewise(Times{}, x[l].template row<N>(0), second.block.rows[0]);
-      }
-    };
+    if constexpr (B::array) {
+      return [self = *this](std::ptrdiff_t k, Block<T, L, N>& to) ZELM_INLINE_LAMBDA {
+        Object pairs[L];
+        self.objects(k, pairs);
+        ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] = pairs[l].template row<N>();
+      };
+    } else {
+      return [a = a, second = b.object(0).template row<N>(0)](std::ptrdiff_t k, Block<T, L, N>& to) ZELM_INLINE_LAMBDA {
+        typename A::Object x[L];
+        a.objects(k, L, x);
+        ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] = lanewise(Times{}, x[l].template row<N>(0), second);
+      };
+    }
   }
   /// The same of four vectors of three elements without gaps.
   ZELM_INLINE auto runs() const {
@@ -168,6 +190,12 @@ struct Squares {
   A a;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {a.object(k)}; }
+  template <int L>
+  ZELM_INLINE void objects(std::ptrdiff_t k, Object (&to)[L]) const {
+    typename A::Object x[L];
+    a.objects(k, L, x);
+    ZELM_UNROLL for (int l = 0; l < L; ++l) to[l] = {x[l]};
+  }
   ZELM_INLINE bool interleaved() const { return a.interleaved(); }
   ZELM_INLINE bool tight(int n) const { return a.tight(1, n); }
   ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k, int j) const {
@@ -177,10 +205,10 @@ struct Squares {
   template <int N>
   ZELM_INLINE auto rows() const {
     constexpr int L = Pack<T>::lanes;
-    return [a = a](std::ptrdiff_t k, Block<T, L, N>& to) ZELM_INLINE_LAMBDA {
-      typename A::Object x[L];
-      a.objects(k, L, x);
-      ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] = SquaresOf<typename A::Object>{x[l]}.template row<N>();
+    return [self = *this](std::ptrdiff_t k, Block<T, L, N>& to) ZELM_INLINE_LAMBDA {
+      Object squares[L];
+      self.objects(k, squares);
+      ZELM_UNROLL for (int l = 0; l < L; ++l) to.rows[l] = squares[l].template row<N>();
     };
   }
   ZELM_INLINE auto runs() const {
@@ -293,10 +321,10 @@ ZELM_INLINE V sum_by_eights(int width, int lead, Term term, Eights eights) {
 }
 
 template <class Object>
-ZELM_INLINE typename Object::T sum_of(const Object& object, int width, int lead) {
+__attribute__((noinline)) typename Object::T sum_of(Object object, int width) {
   using T = typename Object::T;
   const auto one = [&](int j) ZELM_INLINE_LAMBDA { return object.one(j); };
-  return sum_by_eights<T>(width, lead, one, [&](T first, int& j) ZELM_INLINE_LAMBDA {
+  return sum_by_eights<T>(width, object.lead(), one, [&](T first, int& j) ZELM_INLINE_LAMBDA {
     if constexpr (Object::plain) {
       EightLanes<T> eight(first);
       for (; j + 8 <= width; j += 8) eight.add(j, [&](int e) ZELM_INLINE_LAMBDA { return object.pack(e); });
@@ -309,29 +337,71 @@ ZELM_INLINE typename Object::T sum_of(const Object& object, int width, int lead)
   });
 }
 
+/// The same of as many objects as a register has lanes, none of which has leading terms: the lanes of all are added at once, and
+/// what is left of each comes as columns.
+template <class Object, int L>
+ZELM_INLINE Pack<typename Object::T> sums_of(const Object (&objects)[L], int width) {
+  using T = typename Object::T;
+  using P = Pack<T>;
+  P sum = P::zero(), columns[L];
+  int j = 0;
+  if (width >= 8) {
+    ZELM_UNROLL for (int l = 0; l < L; ++l) {
+      EightLanes<T> eight;
+      for (j = 0; j + 8 <= width; j += 8) eight.add(j, [&](int e) ZELM_INLINE_LAMBDA { return objects[l].aligned_pack(e); });
+      columns[l] = eight.lanes();
+    }
+    transpose(columns);
+    if constexpr (L == 2) sum = columns[0] + columns[1];
+    else sum = (columns[0] + columns[2]) + (columns[1] + columns[3]);
+  }
+  for (; j + L <= width; j += L) {
+    ZELM_UNROLL for (int l = 0; l < L; ++l) columns[l] = objects[l].pack(j);
+    transpose(columns);
+    ZELM_UNROLL for (int l = 0; l < L; ++l) sum = sum + columns[l];
+  }
+  for (; j < width; ++j) {
+    ZELM_UNROLL for (int l = 0; l < L; ++l) columns[l] = objects[l].first(j);
+    transpose(columns);
+    sum = sum + columns[0];
+  }
+  return sum;
+}
+
 /// finish(sum): the result, of an element or of a pack.
 template <class Terms, class Finish>
 __attribute__((noinline)) void reduce_any(Terms terms, typename Terms::T* d, int width, std::ptrdiff_t count, Finish finish) {
-  using T = typename Terms::T;
-  using P = Pack<T>;
+  using P = Pack<typename Terms::T>;
+  constexpr int L = P::lanes;
   std::ptrdiff_t k = 0;
-  if constexpr (Terms::array && !Terms::plain) {
+  const auto one = [&](const auto& object) ZELM_INLINE_LAMBDA { store(d + k, finish(sum_of(object, width))); };
+  if constexpr (Terms::array && Terms::plain) {
+    while (k + L <= count) {
+      typename Terms::Object objects[L];
+      terms.objects(k, objects);
+      std::uintptr_t starts = 0;
+      ZELM_UNROLL for (int l = 0; l < L; ++l) starts |= objects[l].start();
+      if (starts % 16 == 0 || width < 8) {
+        finish(sums_of(objects, width)).store(d + k);
+        k += L;
+      } else {
+        for (const std::ptrdiff_t end = k + L; k < end; ++k) one(terms.object(k));
+      }
+    }
+  } else if constexpr (Terms::array) {
     if (terms.interleaved()) {
       const int lead = terms.object(0).lead();
-      for (; k + P::lanes <= count; k += P::lanes) {
+      for (; k + L <= count; k += L) {
         const auto lanes = [&](int j) ZELM_INLINE_LAMBDA { return terms.lanes(k, j); };
         finish(sum_by_eights<P>(width, lead, lanes, [&](P first, int& j) ZELM_INLINE_LAMBDA {
-          EightSums<T, P> eight{{first}};
+          EightSums<typename Terms::T, P> eight{{first}};
           for (; j + 8 <= width; j += 8) eight.add(j, lanes);
           return eight.sum();
         })).store(d + k);
       }
     }
   }
-  for (; k < count; ++k) {
-    const auto object = terms.object(k);
-    store(d + k, finish(sum_of(object, width, object.lead())));
-  }
+  for (; k < count; ++k) one(terms.object(k));
 }
 
 }  // namespace zelm::products

@@ -49,10 +49,12 @@ struct EightLanes {
     ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = part[p] + term(k + p * L);
   }
 
-  ZELM_INLINE T sum() const {
-    if constexpr (packs == 2) return sum_of_lanes(part[0] + part[1]);
-    else return sum_of_lanes((part[0] + part[1]) + (part[2] + part[3]));
+  /// The packs added up.
+  ZELM_INLINE Pack<T> lanes() const {
+    if constexpr (packs == 2) return part[0] + part[1];
+    else return (part[0] + part[1]) + (part[2] + part[3]);
   }
+  ZELM_INLINE T sum() const { return sum_of_lanes(lanes()); }
 };
 
 }  // namespace zelm::products
