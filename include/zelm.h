@@ -591,6 +591,45 @@ ZelStatus zelmCopy_va_64f_SP(const double* pSrc, int srcStride0, int srcStride2,
 ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
+/* ---- Det ---- */
+
+/** *pDst = det(A); square matrices of order widthHeight. */
+ZelStatus zelmDet_m_32f(const float* pSrc, int srcStride1, int srcStride2, int widthHeight, void* pBuffer, float* pDst);
+
+/** *pDst = det(A); square matrices of order widthHeight. */
+ZelStatus zelmDet_m_32f_P(const float* const* ppSrc, int srcByteShift, int widthHeight, void* pBuffer, float* pDst);
+
+/** *pDst = det(A); square matrices of order widthHeight. */
+ZelStatus zelmDet_m_64f(const double* pSrc, int srcStride1, int srcStride2, int widthHeight, void* pBuffer,
+    double* pDst);
+
+/** *pDst = det(A); square matrices of order widthHeight. */
+ZelStatus zelmDet_m_64f_P(const double* const* ppSrc, int srcByteShift, int widthHeight, void* pBuffer, double* pDst);
+
+/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+ZelStatus zelmDet_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
+    void* pBuffer, float* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+ZelStatus zelmDet_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int widthHeight, void* pBuffer, float* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+ZelStatus zelmDet_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
+    void* pBuffer, float* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+ZelStatus zelmDet_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
+    void* pBuffer, double* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+ZelStatus zelmDet_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int widthHeight, void* pBuffer, double* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+ZelStatus zelmDet_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
+    void* pBuffer, double* pDst, int count);
+
 /* ---- Extract ---- */
 
 /** pDst[(k*height + i)*width + j] = A(i, j); packed block: height x width. */
@@ -703,6 +742,48 @@ ZelStatus zelmExtract_va_64f_P(const double* const* ppSrc, int srcByteShift, int
 
 /** the version record of the library; never null. */
 const ZelLibVersion* zelmGetLibVersion(void);
+
+/* ---- Invert ---- */
+
+/** D = inverse of A; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer, float* pDst,
+    int dstStride1, int dstStride2, int widthHeight);
+
+/** D = inverse of A; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer, float* const* ppDst,
+    int dstByteShift, int widthHeight);
+
+/** D = inverse of A; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer, double* pDst,
+    int dstStride1, int dstStride2, int widthHeight);
+
+/** D = inverse of A; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer, double* const* ppDst,
+    int dstByteShift, int widthHeight);
+
+/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    float* pDst, int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
+
+/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
+
+/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    float* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
+
+/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
+
+/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
+
+/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
 /* ---- LComb ---- */
 
