@@ -187,6 +187,15 @@ TEST(DetKnownAnswers, SmallCases) {
   EXPECT_EQ(determinant_of({0, 0, 2, 0, 3, 0, 0, 0, 0, 5, 0, 0, 0, 0, 0, 7}, 4), 210);
 }
 
+/// 2 n^3 is a number of 32 bits: at order 1024 it is negative, and nothing is below it.
+TEST(DetKnownAnswers, LimitWraps) {
+  for (const int n : {1023, 1024}) {
+    std::vector<float> a(n * n);
+    for (int i = 0; i < n; ++i) a[i * n + i] = i == n - 1 ? 0x1p-126f : 1;
+    EXPECT_EQ(determinant_of(a, n), n == 1023 ? 0 : 0x1p-126f);
+  }
+}
+
 /// 1 + 2^-30 + ... is lost where an intermediate product is rounded to float.
 TEST(DetKnownAnswers, OneRoundingInExtendedPrecision) {
   const float h = 1 + 0x1p-15f;
