@@ -51,6 +51,8 @@ inline constexpr std::string_view kMulArguments = "src1:width1 width1 height1 sr
 inline constexpr std::string_view kMulShapes = "sources as stored: height1 x width1, height2 x width2";
 inline constexpr std::string_view kMulVectorShapes = "A height x width as stored; b src2Len elements";
 inline constexpr std::string_view kSquareShapes = "square matrices of order widthHeight";
+inline constexpr std::string_view kScratchShapes =
+    "square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address";
 inline constexpr std::string_view kSolveShapes = "A of order widthHeight; b and x widthHeight elements";
 
 inline constexpr std::string_view kFixedArrays = "strides of any size and sign; a count below 1 does nothing; D[k] may be A[k]";
@@ -210,12 +212,15 @@ inline constexpr Row kRows[] = {
      "least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp",
      "A height x width; b height, x width elements; pBuffer height elements", "", "h*E", "width <= height"},
     {"Det", "m", "src widthHeight pBuffer pDst count", "", "", "solvers", "determinant::compute", "*pDst = det(A)",
-     kSquareShapes},
+     kScratchShapes},
     {"Det", "ma", "src widthHeight pBuffer pDst count", "c*n", "14401/14401 14401/14401 14401 14401/14401 14401/14401 14401",
-     "solvers", "determinant::compute", "pDst[k] = det(A[k])", kSquareShapes, "", "(n*n+n)*E"},
+     "solvers", "determinant::compute", "pDst[k] = det(A[k])", kScratchShapes, "", "(n*n+n)*E"},
     {"Invert", "m ma", "src pBuffer dst widthHeight count", "2*c*n", "3601/2501 2501/2501 2501 2501/2501 2501/2501 2501",
-     "solvers", "inverse::invert", "$d = inverse of $a", kSquareShapes, "zelStsSingular", "(n*n+n)*E", "", Kernels::by_stride,
-     "inverse::reciprocals"},
+     "solvers", "inverse::invert",
+     "$d = inverse of $a, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute limit, "
+     "about "
+     "2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as that limit, not as 0",
+     kScratchShapes, "zelStsSingular", "(n*n+n)*E", "", Kernels::by_stride, "inverse::reciprocals"},
 
     // Eigenproblems
     {"EigenValuesSym", "m ma", "src pBuffer pDst widthHeight count", "c*n*n+c*n",

@@ -184,7 +184,16 @@ TEST(DetKnownAnswers, SmallCases) {
   EXPECT_EQ(determinant_of({0, 1, 1, 0}, 2), -1);
   EXPECT_EQ(determinant_of({2, 1, -2, 3}, 2), 8);
   EXPECT_EQ(determinant_of({1, 2, 3, 1, 2, 3, 4, 5, 6}, 3), 0);
-  EXPECT_EQ(determinant_of({0, 0, 2, 0, 3, 0, 0, 0, 0, 5, 0, 0, 7, 0, 0, 0}, 4), 210);
+  EXPECT_EQ(determinant_of({0, 0, 2, 0, 3, 0, 0, 0, 0, 5, 0, 0, 0, 0, 0, 7}, 4), 210);
+}
+
+/// 2 n^3 is a number of 32 bits: at order 1024 it is negative, and nothing is below it.
+TEST(DetKnownAnswers, LimitWraps) {
+  for (const int n : {1023, 1024}) {
+    std::vector<float> a(n * n);
+    for (int i = 0; i < n; ++i) a[i * n + i] = i == n - 1 ? 0x1p-126f : 1;
+    EXPECT_EQ(determinant_of(a, n), n == 1023 ? 0 : 0x1p-126f);
+  }
 }
 
 /// 1 + 2^-30 + ... is lost where an intermediate product is rounded to float.
@@ -217,7 +226,8 @@ void check_errors(const std::string& type, int n) {
     const Exact e = a.template cast<long double>();
     const long double exact = n <= 6 ? expanded(std::vector<long double>(a.data(), a.data() + n * n), n) : e.determinant();
     const long double bound = e.cwiseAbs().rowwise().sum().prod() * u;
-    Data<T> d{{{a.data(), a.data() + n * n}}, {{"pBuffer", std::vector<int>(n * n * 2 + n)}}, {{"pDst", {0}}}, {}};
+    Data<T> d{
+        {{a.data(), a.data() + n * n}}, {{"pBuffer", std::vector<int>(n * n * 2 + n)}}, {{"pDst", std::vector<T>(1)}}, {}};
     for (const int memory : {0, 8}) {  // contiguous and not
       Scene scene(function("zelmDet_ma_" + type), {{{"widthHeight", n}, {"count", 1}}}, memories()[memory]);
       ASSERT_EQ(scene.run(scene.roads({})[0], d), zelStsOk);
