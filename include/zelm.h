@@ -745,6 +745,14 @@ ZelStatus zelmCopy_va_64f_SP(const double* pSrc, int srcStride0, int srcStride2,
 ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
+/* ---- EigenValuesGetBufSize ---- */
+
+/** *pSize = bytes of pBuffer for zelmEigenValues of order widthHeight. */
+ZelStatus zelmEigenValuesGetBufSize_32f(int widthHeight, int* pSize);
+
+/** *pSize = bytes of pBuffer for zelmEigenValues of order widthHeight. */
+ZelStatus zelmEigenValuesGetBufSize_64f(int widthHeight, int* pSize);
+
 /* ---- EigenValuesSym ---- */
 
 /** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
@@ -796,6 +804,172 @@ ZelStatus zelmEigenValuesSym_ma_64f_L(const double* const* ppSrc, int srcByteShi
     zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
     double* pDst, int widthHeight, int count);
+
+/* ---- EigenValuesVectorsGetBufSize ---- */
+
+/** *pSize = bytes of pBuffer for zelmEigenValuesVectors, ...Left and ...Right of order widthHeight. */
+ZelStatus zelmEigenValuesVectorsGetBufSize_32f(int widthHeight, int* pSize);
+
+/** *pSize = bytes of pBuffer for zelmEigenValuesVectors, ...Left and ...Right of order widthHeight. */
+ZelStatus zelmEigenValuesVectorsGetBufSize_64f(int widthHeight, int* pSize);
+
+/* ---- EigenValuesVectorsLeft ---- */
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A: u^H A^T = lambda u^H, so for a real value
+    A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDstVectors,
+    int dstStride1, int dstStride2, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A: u^H A^T = lambda u^H, so for a real value
+    A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_m_32f_P(const float* const* ppSrc, int srcByteShift, float* const* ppDstVectors,
+    int dstByteShift, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A: u^H A^T = lambda u^H, so for a real value
+    A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDstVectors,
+    int dstStride1, int dstStride2, double* pDstValuesRe, double* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A: u^H A^T = lambda u^H, so for a real value
+    A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_m_64f_P(const double* const* ppSrc, int srcByteShift,
+    double* const* ppDstVectors, int dstByteShift, double* pDstValuesRe, double* pDstValuesIm, int widthHeight,
+    void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
+    value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
+    of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
+    gives. May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    float* pDstVectors, int dstStride0, int dstStride1, int dstStride2, float* pDstValuesRe, float* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
+    value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
+    of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
+    gives. May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1,
+    int srcStride2, float* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2, float* pDstValuesRe,
+    float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
+    value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
+    of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
+    gives. May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
+    float* const* ppDstVectors, int dstByteShift, int dstStride0, float* pDstValuesRe, float* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
+    value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
+    of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
+    gives. May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    double* pDstVectors, int dstStride0, int dstStride1, int dstStride2, double* pDstValuesRe, double* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
+    value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
+    of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
+    gives. May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1,
+    int srcStride2, double* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2,
+    double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
+    value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
+    of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
+    gives. May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsLeft_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
+    double* const* ppDstVectors, int dstByteShift, int dstStride0, double* pDstValuesRe, double* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/* ---- EigenValuesVectorsRight ---- */
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDstVectors,
+    int dstStride1, int dstStride2, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_m_32f_P(const float* const* ppSrc, int srcByteShift, float* const* ppDstVectors,
+    int dstByteShift, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDstVectors,
+    int dstStride1, int dstStride2, double* pDstValuesRe, double* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_m_64f_P(const double* const* ppSrc, int srcByteShift,
+    double* const* ppDstVectors, int dstByteShift, double* pDstValuesRe, double* pDstValuesIm, int widthHeight,
+    void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    float* pDstVectors, int dstStride0, int dstStride1, int dstStride2, float* pDstValuesRe, float* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1,
+    int srcStride2, float* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2, float* pDstValuesRe,
+    float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
+    float* const* ppDstVectors, int dstByteShift, int dstStride0, float* pDstValuesRe, float* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    double* pDstVectors, int dstStride0, int dstStride1, int dstStride2, double* pDstValuesRe, double* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1,
+    int srcStride2, double* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2,
+    double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
+    complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
+    zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectorsRight_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
+    double* const* ppDstVectors, int dstByteShift, int dstStride0, double* pDstValuesRe, double* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
 
 /* ---- EigenValuesVectorsSym ---- */
 
@@ -854,6 +1028,166 @@ ZelStatus zelmEigenValuesVectorsSym_ma_64f_L(const double* const* ppSrc, int src
 ZelStatus zelmEigenValuesVectorsSym_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
     void* pBuffer, double* const* ppDstVectors, int dstByteShift, int dstStride0, double* pDstValues, int widthHeight,
     int count);
+
+/* ---- EigenValuesVectors ---- */
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDstVectorsRight,
+    int dstRightStride1, int dstRightStride2, float* pDstVectorsLeft, int dstLeftStride1, int dstLeftStride2,
+    float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_m_32f_P(const float* const* ppSrc, int srcByteShift, float* const* ppDstVectorsRight,
+    int dstRightByteShift, float* const* ppDstVectorsLeft, int dstLeftByteShift, float* pDstValuesRe,
+    float* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDstVectorsRight,
+    int dstRightStride1, int dstRightStride2, double* pDstVectorsLeft, int dstLeftStride1, int dstLeftStride2,
+    double* pDstValuesRe, double* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_m_64f_P(const double* const* ppSrc, int srcByteShift,
+    double* const* ppDstVectorsRight, int dstRightByteShift, double* const* ppDstVectorsLeft, int dstLeftByteShift,
+    double* pDstValuesRe, double* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    float* pDstVectorsRight, int dstRightStride0, int dstRightStride1, int dstRightStride2, float* pDstVectorsLeft,
+    int dstLeftStride0, int dstLeftStride1, int dstLeftStride2, float* pDstValuesRe, float* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    float* const* ppDstVectorsRight, int dstRightByteShift, int dstRightStride1, int dstRightStride2,
+    float* const* ppDstVectorsLeft, int dstLeftByteShift, int dstLeftStride1, int dstLeftStride2, float* pDstValuesRe,
+    float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
+    float* const* ppDstVectorsRight, int dstRightByteShift, int dstRightStride0, float* const* ppDstVectorsLeft,
+    int dstLeftByteShift, int dstLeftStride0, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, int count,
+    void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    double* pDstVectorsRight, int dstRightStride0, int dstRightStride1, int dstRightStride2, double* pDstVectorsLeft,
+    int dstLeftStride0, int dstLeftStride1, int dstLeftStride2, double* pDstValuesRe, double* pDstValuesIm,
+    int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1,
+    int srcStride2, double* const* ppDstVectorsRight, int dstRightByteShift, int dstRightStride1, int dstRightStride2,
+    double* const* ppDstVectorsLeft, int dstLeftByteShift, int dstLeftStride1, int dstLeftStride2,
+    double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
+    lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
+    first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
+    May return zelStsFailure, zelStsNoConvergence. */
+ZelStatus zelmEigenValuesVectors_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
+    double* const* ppDstVectorsRight, int dstRightByteShift, int dstRightStride0, double* const* ppDstVectorsLeft,
+    int dstLeftByteShift, int dstLeftStride0, double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count,
+    void* pBuffer);
+
+/* ---- EigenValues ---- */
+
+/** eigenvalues of the general A: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDstValuesRe,
+    float* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues of the general A: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_m_32f_P(const float* const* ppSrc, int srcByteShift, float* pDstValuesRe,
+    float* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues of the general A: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDstValuesRe,
+    double* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues of the general A: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_m_64f_P(const double* const* ppSrc, int srcByteShift, double* pDstValuesRe,
+    double* pDstValuesIm, int widthHeight, void* pBuffer);
+
+/** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    float* pDstValuesRe, float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    float* pDstValuesRe, float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDstValuesRe,
+    float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
+    double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
+
+/** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
+    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
+    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
+    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+ZelStatus zelmEigenValues_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDstValuesRe,
+    double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
 /* ---- Extract ---- */
 

@@ -57,6 +57,10 @@ inline constexpr std::string_view kSolveShapes = "A of order widthHeight; b and 
 
 inline constexpr std::string_view kFixedArrays = "strides of any size and sign; a count below 1 does nothing; D[k] may be A[k]";
 
+inline constexpr std::string_view kVectorBuffer =
+    "square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives";
+inline constexpr std::string_view kVectorStatuses = "zelStsFailure zelStsNoConvergence";
+
 inline constexpr Row kRows[] = {
     // Element-wise: sums and differences of objects
     {"Add", "mm tm tt", kBinary, "", "", "elementwise", "combine<Plus>", "$d_ = $a_ + $b_", kMatrixShapes},
@@ -231,21 +235,32 @@ inline constexpr Row kRows[] = {
      "eigenvalues and eigenvectors (columns) of the symmetric $a", kSquareShapes, "zelStsSingular zelStsNoConvergence",
      "n*n*E"},
     {"EigenValues", "m ma", "src pDstValuesRe pDstValuesIm widthHeight count pBuffer", "c*n*n+c*n",
-     "251/251 251/251 251 251/251 251/251 251", "eigen", "", "eigenvalues of the general $a", kSquareShapes,
+     "251/251 251/251 251 251/251 251/251 251", "eigen", "general::values",
+     "eigenvalues of the general $a: real and imaginary parts, n each for every object, unsorted. A complex pair takes two "
+     "neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as zero whatever "
+     "the size of the matrix: scale it to about 1",
+     "square matrices of order n = widthHeight; pBuffer of the bytes that zelmEigenValuesGetBufSize gives",
      "zelStsNoConvergence", "n*E*(3*n+5)", "", Kernels::one},
     {"EigenValuesVectors", "m ma", "src dstVectorsRight dstVectorsLeft pDstValuesRe pDstValuesIm widthHeight count pBuffer",
-     "3*c*n*n+c*n", "501/501 501/501 501 501/501 501/501 501", "eigen", "",
-     "eigenvalues, right and left eigenvectors (columns) of $a", kSquareShapes, "zelStsFailure zelStsNoConvergence",
-     "n*E*(3*n+5)", "", Kernels::one},
+     "3*c*n*n+c*n", "501/501 501/501 501 501/501 501/501 501", "eigen", "general::both_vectors",
+     "eigenvalues and both sets of unit eigenvectors, in columns, of the transposed $a: A^T x = lambda x and u^H A^T = lambda "
+     "u^H. "
+     "The vector of a complex pair takes its two columns: real and imaginary part of the vector of the first",
+     kVectorBuffer, kVectorStatuses, "n*E*(3*n+5)", "", Kernels::one},
     {"EigenValuesVectorsLeft", "m ma", "src dstVectors pDstValuesRe pDstValuesIm widthHeight count pBuffer", "", "", "eigen",
-     "", "eigenvalues and left eigenvectors (columns) of $a", kSquareShapes, "zelStsFailure zelStsNoConvergence", "", "",
-     Kernels::one},
+     "general::left_vectors",
+     "eigenvalues and unit left eigenvectors, in columns, of the transposed $a: u^H A^T = lambda u^H, so for a real value "
+     "A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the first",
+     kVectorBuffer, kVectorStatuses, "", "", Kernels::one},
     {"EigenValuesVectorsRight", "m ma", "src dstVectors pDstValuesRe pDstValuesIm widthHeight count pBuffer", "", "", "eigen",
-     "", "eigenvalues and right eigenvectors (columns) of $a", kSquareShapes, "zelStsFailure zelStsNoConvergence", "", "",
-     Kernels::one},
-    {"EigenValuesGetBufSize", "", "widthHeight pSize", "", "", "eigen", "",
+     "general::right_vectors",
+     "eigenvalues and unit right eigenvectors, in columns, of the transposed $a: A^T x = lambda x. The vector of a complex "
+     "pair "
+     "takes its two columns: real and imaginary part of the vector of the first",
+     kVectorBuffer, kVectorStatuses, "", "", Kernels::one},
+    {"EigenValuesGetBufSize", "", "widthHeight pSize", "", "", "eigen", "general::buffer_size<1>",
      "*pSize = bytes of pBuffer for zelmEigenValues of order widthHeight", "", "", "", "", Kernels::none},
-    {"EigenValuesVectorsGetBufSize", "", "widthHeight pSize", "", "", "eigen", "",
+    {"EigenValuesVectorsGetBufSize", "", "widthHeight pSize", "", "", "eigen", "general::buffer_size<3>",
      "*pSize = bytes of pBuffer for zelmEigenValuesVectors, ...Left and ...Right of order widthHeight", "", "", "", "",
      Kernels::none},
 

@@ -59,6 +59,11 @@ string formula_call(const Function& f, string formula, const Kernel& k) {
   if (!k.policy.empty()) {
     if (formula.back() == '>') formula.insert(formula.size() - 1, ", " + k.policy);
     else formula += "<" + k.policy + ">";
+  string formula(f.row->formula);
+  const string& policy = f.form.empty() ? f.element : k.policy;  // without operands nothing else names the type
+  if (!policy.empty()) {
+    if (formula.back() == '>') formula.insert(formula.size() - 1, ", " + policy);
+    else formula += "<" + policy + ">";
   }
   return formula + "(" + call + ")";
 }
@@ -235,8 +240,9 @@ std::vector<Unit> built_units() {
     if (!f.built() || f.row->room == "frame") continue;
     const auto [at, fresh] = place.try_emplace({f.row, f.element}, units.size());
     if (fresh) {
-      const string first_form(words(f.row->forms)[0]);
-      units.push_back({string(f.row->operation) + "_" + first_form + (f.element == "double" ? "_64f" : "_32f"), {}});
+      const auto forms = words(f.row->forms);
+      const string first_form = forms.empty() ? "" : "_" + string(forms[0]);
+      units.push_back({string(f.row->operation) + first_form + (f.element == "double" ? "_64f" : "_32f"), {}});
     }
     units[at->second].functions.push_back(&f);
   }

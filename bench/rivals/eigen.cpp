@@ -1,0 +1,56 @@
+// rivals/eigen.cpp: Eigen's eigenvalue solvers on fixed-size types.
+#include <Eigen/Eigenvalues>
+
+#include "rivals/rival.hpp"
+
+namespace zelm::bench::rivals {
+namespace {
+
+template <class T, int N>
+using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
+template <class T, int N>
+using Vector = Eigen::Matrix<T, N, 1>;
+
+// Operands: source, values, vectors.
+
+template <bool vectors, bool direct>
+constexpr auto symmetric = []<class T, int N>(const Array* at, std::ptrdiff_t first, std::ptrdiff_t count) {
+  constexpr int what = vectors ? Eigen::ComputeEigenvectors : Eigen::EigenvaluesOnly;
+  Eigen::SelfAdjointEigenSolver<Matrix<T, N>> solver;
+  for (std::ptrdiff_t k = first; k < first + count; ++k) {
+    const Eigen::Map<const Matrix<T, N>> a(at[0].of<T>() + k * N * N);
+    if constexpr (direct) solver.computeDirect(a, what);
+    else solver.compute(a, what);
+    Eigen::Map<Vector<T, N>>(at[1].of<T>() + k * N) = solver.eigenvalues();
+    if constexpr (vectors) Eigen::Map<Matrix<T, N>>(at[2].of<T>() + k * N * N) = solver.eigenvectors();
+  }
+};
+
+// Operands: source, real parts, imaginary parts, vectors: of a pair the real and the imaginary part.
+
+template <bool vectors>
+constexpr auto general = []<class T, int N>(const Array* at, std::ptrdiff_t first, std::ptrdiff_t count) {
+  Eigen::EigenSolver<Matrix<T, N>> solver;
+  for (std::ptrdiff_t k = first; k < first + count; ++k) {
+    solver.compute(Eigen::Map<const Matrix<T, N>>(at[0].of<T>() + k * N * N), vectors);
+    const auto& values = solver.eigenvalues();
+    Eigen::Map<Vector<T, N>>(at[1].of<T>() + k * N) = values.real();
+    Eigen::Map<Vector<T, N>>(at[2].of<T>() + k * N) = values.imag();
+    if constexpr (vectors) {
+      const auto x = solver.eigenvectors();
+      Eigen::Map<Matrix<T, N>> to(at[3].of<T>() + k * N * N);
+      for (int j = 0; j < N; ++j) {
+        to.col(j) = x.col(j).real();
+        if (values[j].imag() > 0) to.col(j + 1) = x.col(j).imag(), ++j;
+      }
+    }
+  }
+};
+
+const bool all = enroll<3, 4, 5, 6, 10>("EigenValuesSym_ma", "Eigen", symmetric<false, false>) &&
+                 enroll<3, 4, 5, 6, 10>("EigenValuesVectorsSym_ma", "Eigen", symmetric<true, false>) &&
+                 enroll<3, 4, 5, 6, 10>("EigenValues_ma", "Eigen", general<false>) &&
+                 enroll<3, 4, 5, 6, 10>("EigenValuesVectorsRight_ma", "Eigen", general<true>);
+
+}  // namespace
+}  // namespace zelm::bench::rivals
