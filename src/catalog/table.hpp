@@ -303,9 +303,8 @@ inline constexpr Row kRows[] = {
      ""},
     {"Identity", "m4", "pDst", "", "", "geometry", "build::identity", "D = I", ""},
     {"IsIdentity", "m4", "pSrc pResult", "", "", "geometry", "build::is_identity",
-     "*pResult = 1 if A(0, 0) is 1 and at least one column of A, whichever, equals that of the identity exactly; else 0. True "
-     "of the "
-     "identity, but not of it alone",
+     "*pResult = 1 if A(0, 0) is 1 and at least one column of A, whichever, equals that of the identity exactly; else 0. "
+     "True of the identity, but not of it alone",
      ""},
     {"Translation", "m4", "x y z pDst", "", "", "geometry", "build::translation",
      "p D = p + (x, y, z): the identity with x, y, z in M[12], M[13], M[14]", ""},
@@ -324,58 +323,48 @@ inline constexpr Row kRows[] = {
      "D = RotationZ(roll) * RotationX(pitch) * RotationY(yaw), that is roll first; radians", ""},
     {"LookAtLH", "m4", "pEye pAt pUp pDst", "", "", "geometry", "build::look_at<LeftHanded>",
      "left-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to +z, pUp to the half plane of "
-     "+y. NaNs "
-     "where pAt is the eye or pUp lies along the view",
+     "+y. NaNs where pAt is the eye or pUp lies along the view",
      ""},
     {"LookAtRH", "m4", "pEye pAt pUp pDst", "", "", "geometry", "build::look_at<RightHanded>",
-     "right-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to -z, pUp to the half plane of "
-     "+y. NaNs "
-     "where pAt is the eye or pUp lies along the view",
+     "right-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to -z, pUp to the half plane "
+     "of +y. NaNs where pAt is the eye or pUp lies along the view",
      ""},
     {"PerspectiveLH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "build::perspective<LeftHanded>",
-     "left-handed perspective of a near plane of viewWidth x viewHeight; "
-     "z = zNear to zFar becomes 0 to 1 after the division by w = z",
+     "left-handed perspective of a near plane of viewWidth x viewHeight; z = zNear to zFar becomes 0 to 1 after the "
+     "division by w = z",
      ""},
     {"PerspectiveFovLH", "m4", "fovY aspect zNear zFar pDst", "", "", "geometry", "build::perspective_fov<LeftHanded>",
-     "left-handed perspective by the full vertical angle fovY in radians and aspect = width / height; "
-     "z = zNear to zFar becomes 0 to 1 after the division by w = z",
+     "left-handed perspective by the full vertical angle fovY in radians and aspect = width / height; z = zNear to zFar "
+     "becomes 0 to 1 after the division by w = z",
      ""},
     {"PerspectiveOffCenterLH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry",
      "build::perspective_off_center<LeftHanded>",
-     "left-handed perspective of the window left to right, bottom to top of the near plane; "
-     "z = zNear to zFar becomes 0 to 1 after the division by w = z",
+     "left-handed perspective of the window left to right, bottom to top of the near plane; z = zNear to zFar becomes 0 to "
+     "1 after the division by w = z",
      ""},
     {"OrthoLH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "build::ortho<LeftHanded>",
-     "left-handed parallel projection of a box of viewWidth x viewHeight; "
-     "z = zNear to zFar becomes 0 to 1",
-     ""},
+     "left-handed parallel projection of a box of viewWidth x viewHeight; z = zNear to zFar becomes 0 to 1", ""},
     {"OrthoOffCenterLH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry",
      "build::ortho_off_center<LeftHanded>",
-     "left-handed parallel projection of the box left to right, bottom to top; "
-     "z = zNear to zFar becomes 0 to 1",
-     ""},
+     "left-handed parallel projection of the box left to right, bottom to top; z = zNear to zFar becomes 0 to 1", ""},
     {"PerspectiveRH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "build::perspective<RightHanded>",
-     "right-handed perspective of a near plane of viewWidth x viewHeight; "
-     "z = -zNear to -zFar becomes 0 to 1 after the division by w = -z",
+     "right-handed perspective of a near plane of viewWidth x viewHeight; z = -zNear to -zFar becomes 0 to 1 after the "
+     "division by w = -z",
      ""},
     {"PerspectiveFovRH", "m4", "fovY aspect zNear zFar pDst", "", "", "geometry", "build::perspective_fov<RightHanded>",
-     "right-handed perspective by the full vertical angle fovY in radians and aspect = width / height; "
-     "z = -zNear to -zFar becomes 0 to 1 after the division by w = -z",
+     "right-handed perspective by the full vertical angle fovY in radians and aspect = width / height; z = -zNear to -zFar "
+     "becomes 0 to 1 after the division by w = -z",
      ""},
     {"PerspectiveOffCenterRH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry",
      "build::perspective_off_center<RightHanded>",
-     "right-handed perspective of the window left to right, bottom to top of the near plane; "
-     "z = -zNear to -zFar becomes 0 to 1 after the division by w = -z",
+     "right-handed perspective of the window left to right, bottom to top of the near plane; z = -zNear to -zFar becomes 0 "
+     "to 1 after the division by w = -z",
      ""},
     {"OrthoRH", "m4", "viewWidth viewHeight zNear zFar pDst", "", "", "geometry", "build::ortho<RightHanded>",
-     "right-handed parallel projection of a box of viewWidth x viewHeight; "
-     "z = -zNear to -zFar becomes 0 to 1",
-     ""},
+     "right-handed parallel projection of a box of viewWidth x viewHeight; z = -zNear to -zFar becomes 0 to 1", ""},
     {"OrthoOffCenterRH", "m4", "left right bottom top zNear zFar pDst", "", "", "geometry",
      "build::ortho_off_center<RightHanded>",
-     "right-handed parallel projection of the box left to right, bottom to top; "
-     "z = -zNear to -zFar becomes 0 to 1",
-     ""},
+     "right-handed parallel projection of the box left to right, bottom to top; z = -zNear to -zFar becomes 0 to 1", ""},
     {"Mul", "mm4x4", "pSrc1 pSrc2 pDst", "", "", "geometry", "m4::mul",
      "D = A * B, which as a transform applies A first; D may be a source. Null pointers are refused", ""},
     {"MulTranspose", "m4", "pSrc1 pSrc2 pDst", "", "", "geometry", "m4::mul_transposed",
@@ -384,9 +373,8 @@ inline constexpr Row kRows[] = {
     {"Det", "m4", "pSrc pDst", "", "", "geometry", "m4::determinant", "*pDst = det(A), one float, expanded along the first row",
      ""},
     {"Invert", "m4", "pSrc pDet pDst", "", "", "geometry", "m4::invert",
-     "D = inverse of A, by cofactors, and *pDet = det(A) unless pDet is null; D may be A. Singular if |det(A)| < 2^-119: then "
-     "*pDet = "
-     "0 and D is left alone",
+     "D = inverse of A, by cofactors, and *pDet = det(A) unless pDet is null; D may be A. Singular if |det(A)| < 2^-119: "
+     "then *pDet = 0 and D is left alone",
      "", "zelStsSingular"},
     {"AffineTransform", "m4v2 m4v3 m4v4", "pMatrix pSrc pDst", "", "", "geometry", "transform::one<Affine<$n>>",
      "D = A * M, 4 floats; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1)", ""},
@@ -394,9 +382,8 @@ inline constexpr Row kRows[] = {
      "transform::array<Affine<$n>>", "D[k] = A[k] * M, 4 floats each; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1)",
      kFixedArrays},
     {"AffineTransformCoord", "m4v2 m4v3", "pMatrix pSrc pDst", "", "", "geometry", "transform::one<Coord<$n>>",
-     "the point A * M divided by its fourth element w, as many floats as A has; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1). "
-     "w = 0 "
-     "gives infinities or NaNs; D may be A",
+     "the point A * M divided by its fourth element w, as many floats as A has; v2 counts as (x, y, 0, 1), v3 as (x, y, z, "
+     "1). w = 0 gives infinities or NaNs; D may be A",
      ""},
     {"AffineTransformCoord", "m4v2a m4v3a", "pMatrix pSrc srcStride0 pDst dstStride0 count", "", "", "geometry",
      "transform::array<Coord<$n>>",
@@ -405,44 +392,38 @@ inline constexpr Row kRows[] = {
      kFixedArrays},
     {"AffineTransformNormal", "m4v2 m4v3", "pMatrix pSrc pDst", "", "", "geometry", "transform::one<Normal<$n>>",
      "the direction A times the upper left block of M as it stands, as many floats as A has: no translation, no inverse "
-     "transpose, no "
-     "unit length; D may be A",
+     "transpose, no unit length; D may be A",
      ""},
     {"AffineTransformNormal", "m4v2a m4v3a", "pMatrix pSrc srcStride0 pDst dstStride0 count", "", "", "geometry",
      "transform::array<Normal<$n>>",
-     "the directions A[k] times the upper left block of M as it stands, as many floats as A[k] has: no translation, no inverse "
-     "transpose, no unit length",
+     "the directions A[k] times the upper left block of M as it stands, as many floats as A[k] has: no translation, no "
+     "inverse transpose, no unit length",
      kFixedArrays},
     {"Project", "m4v3", "pProjection pView pWorld pSrc vpWidth vpHeight vpMinZ vpMaxZ pDst", "", "", "geometry",
      "transform::project",
-     "a point of the world to the screen: n = A * World * View * Projection, step by step, divided by its fourth element; "
-     "D = (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down; D may be A",
+     "a point of the world to the screen: n = A * World * View * Projection, step by step, divided by its fourth element; D "
+     "= (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down; D may be A",
      ""},
     {"Project", "m4v3a", "pProjection pView pWorld pSrc srcStride0 vpWidth vpHeight vpMinZ vpMaxZ pDst dstStride0 count", "",
      "", "geometry", "transform::project_array",
-     "points of the world to the screen: n = A[k] * (World * (View * Projection)) divided by its fourth element; "
-     "D[k] = (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down",
+     "points of the world to the screen: n = A[k] * (World * (View * Projection)) divided by its fourth element; D[k] = "
+     "(vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down",
      kFixedArrays},
     {"Unproject", "m4v3", "pProjection pView pWorld pSrc vpWidth vpHeight vpMinZ vpMaxZ pDst", "", "", "geometry",
      "transform::unproject",
      "a point of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ - "
-     "vpMinZ)) times "
-     "the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. D may be A; where there is "
-     "no "
-     "inverse D is n",
+     "vpMinZ)) times the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. D may be "
+     "A; where there is no inverse D is n",
      "", "zelStsSingular"},
     {"Unproject", "m4v3a", "pProjection pView pWorld pSrc srcStride0 vpWidth vpHeight vpMinZ vpMaxZ pDst dstStride0 count", "",
      "", "geometry", "transform::unproject_array",
      "points of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ - "
-     "vpMinZ)) times "
-     "the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. Where there is no inverse "
-     "nothing "
-     "is written",
+     "vpMinZ)) times the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. Where "
+     "there is no inverse nothing is written",
      kFixedArrays, "zelStsSingular"},
     {"AffineTransform3DH", "mva", "src1 src2 dst count", "6*c", "785/785", "geometry", "homogeneous::transform",
-     "column vectors: (x', y', z', w') = M (x, y, z, 1), D[k] = (x', y', z') * (1 / w'). Where |w'| is not above 2^-126, D[k] "
-     "is three "
-     "times the largest float, and the status tells it at the end; D may be src2",
+     "column vectors: (x', y', z', w') = M (x, y, z, 1), D[k] = (x', y', z') * (1 / w'). Where |w'| is not above 2^-126, "
+     "D[k] is three times the largest float, and the status tells it at the end; D may be src2",
      "M 4 x 4; points of 3 elements", "zelStsDivideByZero"},
     {"GetLibVersion", "", "", "", "", "frame", "version", "the version record of the library; never null", "", "", "", "",
      Kernels::none},

@@ -148,24 +148,27 @@ struct Lanewise {
 };
 
 template <class Body, bool packed, bool streamed, int N>
-__attribute__((noinline)) void by_four(Body body, Run<const float, N> s, Run<float, N> d, std::ptrdiff_t count) {
-  for_blocks<4>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
+__attribute__((noinline)) void by_four(const Body& body, Run<const float, N> s, Run<float, N> d, std::ptrdiff_t count) {
+  const Body held = body;  // that no store to d can change
+  const auto block = [&](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
     P v[N], r[N];
     constexpr bool full = !std::is_same_v<decltype(valid), int>;
     if constexpr (packed && full) packed_to_lanes(v, s.first + k * N);
-    else rows_to_lanes(v, [=](int l) { return s.at(k + (l < valid ? l : valid - 1)); });
-    body(v, r);
+    else rows_to_lanes(v, [&](int l) { return s.at(k + (l < valid ? l : valid - 1)); });
+    held(v, r);
     if constexpr (packed && full) {
       lanes_to_packed<streamed>(r, d.first + k * N);
     } else if constexpr (full) {
-      lanes_to_rows(r, [=](int l) { return d.at(k + l); });
+      lanes_to_rows(r, [&](int l) { return d.at(k + l); });
     } else {
       alignas(16) float lanes[N][4];
-      for (int j = 0; j < N; ++j) r[j].store(lanes[j]);
-      for (int l = 0; l < valid; ++l)
-        for (int j = 0; j < N; ++j) store(d.at(k + l) + j, lanes[j][l]);
+      ZELM_UNROLL for (int j = 0; j < N; ++j) r[j].store(lanes[j]);
+      for (int l = 0; l < valid; ++l) ZELM_UNROLL for (int j = 0; j < N; ++j) store(d.at(k + l) + j, lanes[j][l]);
     }
-  });
+  };
+  std::ptrdiff_t k = 0;
+  ZELM_AS_IT_STANDS for (; k + 4 <= count; k += 4) block(k, std::integral_constant<int, 4>{});
+  if (k < count) block(k, int(count - k));
   if constexpr (streamed) _mm_sfence();
 }
 
@@ -177,7 +180,7 @@ ZELM_INLINE ZelStatus for_vectors(const Body& body, const float* src, int src_st
   if (count < 1) return zelStsOk;
   if (!independent(s, d, count)) {
     for (std::ptrdiff_t k = 0; k < count; ++k)
-      by_four<Body, false, false, N>(body, {s.at(k), src_stride}, {d.at(k), dst_stride}, 1);
+      by_four<Body, false, false>(body, Run<const float, N>{s.at(k), src_stride}, Run<float, N>{d.at(k), dst_stride}, 1);
   } else if (!s.packed() || !d.packed()) {
     by_four<Body, false, false>(body, s, d, count);
   } else if (streams(s, d, count)) {
