@@ -6,8 +6,7 @@ set -u
 build=(cmake ninja-build clang libomp-dev g++-multilib)
 test=(googletest libeigen3-dev libclang-rt-dev pkg-config)
 demo=(libeigen3-dev libpng-dev)
-bench=(libeigen3-dev libbenchmark-dev libxsmm-dev)
-bench=(libeigen3-dev libglm-dev libbenchmark-dev)
+bench=(libeigen3-dev libglm-dev libbenchmark-dev libxsmm-dev)
 format=(clang-format)
 
 # The 32-bit OpenMP runtime. All of Debian's libomp5 packages exclude each other, the 64-bit one that libomp-dev needs

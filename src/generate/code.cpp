@@ -56,10 +56,6 @@ string formula_call(const Function& f, string formula, const Kernel& k) {
     if (argument.operand < 0) add(argument.name);
     else if (argument.operand != last_operand) add(view(f, f.operands[std::size_t(last_operand = argument.operand)], k));
   }
-  if (!k.policy.empty()) {
-    if (formula.back() == '>') formula.insert(formula.size() - 1, ", " + k.policy);
-    else formula += "<" + k.policy + ">";
-  string formula(f.row->formula);
   const string& policy = f.form.empty() ? f.element : k.policy;  // without operands nothing else names the type
   if (!policy.empty()) {
     if (formula.back() == '>') formula.insert(formula.size() - 1, ", " + policy);

@@ -1,5 +1,5 @@
 // Dot products against sums in plain scalar code, in the order that each kernel has for this memory, bit for bit.
-#include "products/sums.hpp"
+#include "products/reference_sums.hpp"
 
 namespace zelm::test {
 namespace {

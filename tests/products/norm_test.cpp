@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "products/sums.hpp"
+#include "products/reference_sums.hpp"
 #include "zelm.h"
 
 namespace zelm::test {

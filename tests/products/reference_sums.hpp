@@ -1,4 +1,4 @@
-// sums.hpp: sums of terms in the orders of the reductions, in plain scalar code.
+// reference_sums.hpp: sums of terms in the orders of the reductions, in plain scalar code.
 #pragma once
 #include <cstdint>
 #include <vector>
