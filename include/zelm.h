@@ -18,6 +18,11 @@
  * Every function returns zelStsOk or a negative status. Bad arguments (a null pointer, a count or size below 1, a bad stride or
  * byte shift, sizes that do not agree) are refused with nothing written; the docstrings name what else can be returned.
  * In formulas k runs over the objects, i over rows, j over columns; A and B (a and b) are the sources, D (d) the destination.
+ *
+ * Fixed sizes: v2, v3, v4 are 2, 3, 4 consecutive floats, m4 is a matrix of 16 floats row by row, M[4*i + j]. These functions check
+ * nothing, null pointers included, and return zelStsOk unless their text says otherwise. Points are row vectors, p' = p M: a
+ * translation is in M[12], M[13], M[14], and A * B is A first, then B.
+ *
  * All functions may be called from any thread at any time. Large arrays are divided among the threads that zelcore.h sets.
  */
 #ifndef ZELM_H
@@ -289,6 +294,15 @@ ZelStatus zelmAdd_tt_64f(const double* pSrc1, int src1Stride1, int src1Stride2, 
 ZelStatus zelmAdd_tt_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift, int width, int height);
 
+/** d(j) = a(j) + b(j); D may be a source. */
+ZelStatus zelmAdd_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) + b(j); D may be a source. */
+ZelStatus zelmAdd_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) + b(j); D may be a source. */
+ZelStatus zelmAdd_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
 /** d[k](j) = a[k](j) + val; vectors of width elements. */
 ZelStatus zelmAdd_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
     int dstStride2, int width, int count);
@@ -444,6 +458,96 @@ ZelStatus zelmAdd_vv_64f(const double* pSrc1, int src1Stride2, const double* pSr
 /** d(j) = a(j) + b(j); vectors of width elements. */
 ZelStatus zelmAdd_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift, int width);
+
+/* ---- AffineTransform3DH ---- */
+
+/** column vectors: (x', y', z', w') = M (x, y, z, 1), D[k] = (x', y', z') * (1 / w'). Where |w'| is not above 2^-126,
+    D[k] is three times the largest float, and the status tells it at the end; D may be src2; M 4 x 4; points of 3
+    elements. May return zelStsDivideByZero. */
+ZelStatus zelmAffineTransform3DH_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, const float* pSrc2,
+    int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
+
+/* ---- AffineTransformCoord ---- */
+
+/** the point A * M divided by its fourth element w, as many floats as A has; v2 counts as (x, y, 0, 1), v3 as (x, y,
+    z, 1). w = 0 gives infinities or NaNs; D may be A. */
+ZelStatus zelmAffineTransformCoord_m4v2_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** the points A[k] * M divided by their fourth elements w, as many floats as A[k] has; v2 counts as (x, y, 0, 1), v3
+    as (x, y, z, 1). w = 0 gives infinities or NaNs; strides of any size and sign; a count below 1 does nothing;
+    D[k] may be A[k]. */
+ZelStatus zelmAffineTransformCoord_m4v2a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/** the point A * M divided by its fourth element w, as many floats as A has; v2 counts as (x, y, 0, 1), v3 as (x, y,
+    z, 1). w = 0 gives infinities or NaNs; D may be A. */
+ZelStatus zelmAffineTransformCoord_m4v3_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** the points A[k] * M divided by their fourth elements w, as many floats as A[k] has; v2 counts as (x, y, 0, 1), v3
+    as (x, y, z, 1). w = 0 gives infinities or NaNs; strides of any size and sign; a count below 1 does nothing;
+    D[k] may be A[k]. */
+ZelStatus zelmAffineTransformCoord_m4v3a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/* ---- AffineTransformNormal ---- */
+
+/** the direction A times the upper left block of M as it stands, as many floats as A has: no translation, no inverse
+    transpose, no unit length; D may be A. */
+ZelStatus zelmAffineTransformNormal_m4v2_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** the directions A[k] times the upper left block of M as it stands, as many floats as A[k] has: no translation, no
+    inverse transpose, no unit length; strides of any size and sign; a count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransformNormal_m4v2a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/** the direction A times the upper left block of M as it stands, as many floats as A has: no translation, no inverse
+    transpose, no unit length; D may be A. */
+ZelStatus zelmAffineTransformNormal_m4v3_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** the directions A[k] times the upper left block of M as it stands, as many floats as A[k] has: no translation, no
+    inverse transpose, no unit length; strides of any size and sign; a count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransformNormal_m4v3a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/* ---- AffineTransform ---- */
+
+/** D = A * M, 4 floats; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1). */
+ZelStatus zelmAffineTransform_m4v2_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** D[k] = A[k] * M, 4 floats each; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1); strides of any size and sign; a
+    count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransform_m4v2a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/** D = A * M, 4 floats; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1). */
+ZelStatus zelmAffineTransform_m4v3_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** D[k] = A[k] * M, 4 floats each; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1); strides of any size and sign; a
+    count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransform_m4v3a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/** D = A * M, 4 floats; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1). */
+ZelStatus zelmAffineTransform_m4v4_32f(const float* pMatrix, const float* pSrc, float* pDst);
+
+/** D[k] = A[k] * M, 4 floats each; v2 counts as (x, y, 0, 1), v3 as (x, y, z, 1); strides of any size and sign; a
+    count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmAffineTransform_m4v4a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
+    int dstStride0, int count);
+
+/* ---- BaryCentric ---- */
+
+/** D = (B - A) weight1 + A + (C - A) weight2, summed in this order; D may be a source. */
+ZelStatus zelmBaryCentric_v2_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float weight1,
+    float weight2, float* pDst);
+
+/** D = (B - A) weight1 + A + (C - A) weight2, summed in this order; D may be a source. */
+ZelStatus zelmBaryCentric_v3_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float weight1,
+    float weight2, float* pDst);
+
+/** D = (B - A) weight1 + A + (C - A) weight2, summed in this order; D may be a source. */
+ZelStatus zelmBaryCentric_v4_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float weight1,
+    float weight2, float* pDst);
 
 /* ---- CholeskyBackSubst ---- */
 
@@ -744,6 +848,227 @@ ZelStatus zelmCopy_va_64f_SP(const double* pSrc, int srcStride0, int srcStride2,
 /** d[k](j) = a[k](j); objects of height x width. */
 ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int dstStride0,
     int dstStride2, int width, int count);
+
+/* ---- CrossProduct ---- */
+
+/** *pDst = a(0) b(1) - a(1) b(0), one float. */
+ZelStatus zelmCrossProduct_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** D = A x B; D must not be a source: each element is stored before the next is computed. */
+ZelStatus zelmCrossProduct_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** D orthogonal to A, B and C: d(0) = det of elements 1 2 3 of the three, d(1) = - det of 0 2 3, d(2) = det of 0 1 3,
+    d(3) = - det of 0 1 2; D must not be a source: each element is stored before the next is computed. */
+ZelStatus zelmCrossProduct_v4_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float* pDst);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
+    int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const float* pSrc2, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const float* const* ppSrc2, int src2ByteShift, float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
+    int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const double* pSrc2, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = a[k] x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const double* const* ppSrc2, int src2ByteShift, double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
+    int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
+    int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** d = a x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vv_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride2,
+    float* pDst, int dstStride2);
+
+/** d = a x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vv_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
+    int src2ByteShift, float* const* ppDst, int dstByteShift);
+
+/** d = a x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vv_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride2,
+    double* pDst, int dstStride2);
+
+/** d = a x b; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
+    int src2ByteShift, double* const* ppDst, int dstByteShift);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride0,
+    int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_32f_L(const float* pSrc1, int src1Stride2, const float* const* ppSrc2,
+    int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
+    int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride0,
+    int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_64f_L(const double* pSrc1, int src1Stride2, const double* const* ppSrc2,
+    int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = a x b[k]; vectors of 3 elements. */
+ZelStatus zelmCrossProduct_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
+    int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/* ---- Det ---- */
+
+/** *pDst = det(A), one float, expanded along the first row. */
+ZelStatus zelmDet_m4_32f(const float* pSrc, float* pDst);
+
+/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_m_32f(const float* pSrc, int srcStride1, int srcStride2, int widthHeight, void* pBuffer, float* pDst);
+
+/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_m_32f_P(const float* const* ppSrc, int srcByteShift, int widthHeight, void* pBuffer, float* pDst);
+
+/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_m_64f(const double* pSrc, int srcStride1, int srcStride2, int widthHeight, void* pBuffer,
+    double* pDst);
+
+/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_m_64f_P(const double* const* ppSrc, int srcByteShift, int widthHeight, void* pBuffer, double* pDst);
+
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
+    void* pBuffer, float* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int widthHeight, void* pBuffer, float* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
+    void* pBuffer, float* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
+    void* pBuffer, double* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int widthHeight, void* pBuffer, double* pDst, int count);
+
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+ZelStatus zelmDet_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
+    void* pBuffer, double* pDst, int count);
+
+/* ---- DotProduct ---- */
+
+/** *pDst = a(0) b(0) + a(1) b(1) + ..., one float, summed in this order. */
+ZelStatus zelmDotProduct_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** *pDst = a(0) b(0) + a(1) b(1) + ..., one float, summed in this order. */
+ZelStatus zelmDotProduct_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** *pDst = a(0) b(0) + a(1) b(1) + ..., one float, summed in this order. */
+ZelStatus zelmDotProduct_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
+    int src2Stride2, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2, const float* pSrc2,
+    int src2Stride2, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const float* const* ppSrc2, int src2ByteShift, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
+    int src2Stride2, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const double* pSrc2, int src2Stride2, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const double* const* ppSrc2, int src2ByteShift, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
+    int src2Stride0, int src2Stride2, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
+    int src2Stride0, int src2Stride2, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* pDst, int width, int count);
+
+/** pDst[k] = sum over j of a[k](j) * b[k](j); vectors of width elements. */
+ZelStatus zelmDotProduct_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* pDst, int width, int count);
+
+/** *pDst = sum over j of a(j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vv_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride2, float* pDst,
+    int width);
+
+/** *pDst = sum over j of a(j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vv_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
+    int src2ByteShift, float* pDst, int width);
+
+/** *pDst = sum over j of a(j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vv_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride2,
+    double* pDst, int width);
+
+/** *pDst = sum over j of a(j) * b(j); vectors of width elements. */
+ZelStatus zelmDotProduct_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
+    int src2ByteShift, double* pDst, int width);
 
 /* ---- EigenValuesGetBufSize ---- */
 
@@ -1297,10 +1622,298 @@ ZelStatus zelmExtract_va_64f_L(const double* const* ppSrc, int srcByteShift, int
 ZelStatus zelmExtract_va_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
     int count);
 
+/* ---- FrobNorm ---- */
+
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_m_32f(const float* pSrc, int srcStride1, int srcStride2, int width, int height, float* pDst);
+
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_m_32f_P(const float* const* ppSrc, int srcByteShift, int width, int height, float* pDst);
+
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_m_64f(const double* pSrc, int srcStride1, int srcStride2, int width, int height, double* pDst);
+
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_m_64f_P(const double* const* ppSrc, int srcByteShift, int width, int height, double* pDst);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
+    int height, float* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int width, int height, float* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
+    float* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
+    int height, double* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int width, int height, double* pDst, int count);
+
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+ZelStatus zelmFrobNorm_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
+    double* pDst, int count);
+
+/* ---- Gaxpy ---- */
+
+/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2, int src3Len, float* pDst,
+    int dstStride2);
+
+/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, const float* const* ppSrc3, int src3ByteShift,
+    int src3Len, float* const* ppDst, int dstByteShift);
+
+/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride2, int src3Len,
+    double* pDst, int dstStride2);
+
+/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, const double* const* ppSrc3, int src3ByteShift,
+    int src3Len, double* const* ppDst, int dstByteShift);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride0,
+    int src3Stride2, int src3Len, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const float* const* ppSrc3,
+    int src3ByteShift, int src3Stride2, int src3Len, float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const float* const* ppSrc3,
+    int src3ByteShift, int src3Stride0, int src3Len, float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride0,
+    int src3Stride2, int src3Len, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const double* const* ppSrc3,
+    int src3ByteShift, int src3Stride2, int src3Len, double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const double* const* ppSrc3,
+    int src3ByteShift, int src3Stride0, int src3Len, double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2,
+    int src3Len, float* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2,
+    int src3Len, float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const float* const* ppSrc3,
+    int src3ByteShift, int src3Len, float* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride2,
+    int src3Len, double* pDst, int dstStride0, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const double* pSrc3,
+    int src3Stride2, int src3Len, double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+ZelStatus zelmGaxpy_mvav_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const double* const* ppSrc3,
+    int src3ByteShift, int src3Len, double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
 /* ---- GetLibVersion ---- */
 
 /** the version record of the library; never null. */
 const ZelLibVersion* zelmGetLibVersion(void);
+
+/* ---- Hermite ---- */
+
+/** the point at s = weight, 0 to 1, of the cubic from p0 to p1 with tangents t0 and t1: D = (p0 - p1) (2 s^3 - 3 s^2)
+    + ((p0 + t0 (s - 2 s^2 + s^3)) + t1 (s^3 - s^2)), which is p0 exactly at s = 0; D may be a source. */
+ZelStatus zelmHermite_v2_32f(const float* pPoint0, const float* pTangent0, const float* pPoint1,
+    const float* pTangent1, float weight, float* pDst);
+
+/** the point at s = weight, 0 to 1, of the cubic from p0 to p1 with tangents t0 and t1: D = (p0 - p1) (2 s^3 - 3 s^2)
+    + ((p0 + t0 (s - 2 s^2 + s^3)) + t1 (s^3 - s^2)), which is p0 exactly at s = 0; D may be a source. */
+ZelStatus zelmHermite_v3_32f(const float* pPoint0, const float* pTangent0, const float* pPoint1,
+    const float* pTangent1, float weight, float* pDst);
+
+/** the point at s = weight, 0 to 1, of the cubic from p0 to p1 with tangents t0 and t1: D = (p0 - p1) (2 s^3 - 3 s^2)
+    + ((p0 + t0 (s - 2 s^2 + s^3)) + t1 (s^3 - s^2)), which is p0 exactly at s = 0; D may be a source. */
+ZelStatus zelmHermite_v4_32f(const float* pPoint0, const float* pTangent0, const float* pPoint1,
+    const float* pTangent1, float weight, float* pDst);
+
+/* ---- Identity ---- */
+
+/** D = I. */
+ZelStatus zelmIdentity_m4_32f(float* pDst);
+
+/* ---- InterpolationCatmullRom ---- */
+
+/** the point at weight, 0 to 1, of the Hermite curve from pSrc2 to pSrc3 with the tangents (pSrc3 - pSrc1) / 2 and
+    (pSrc4 - pSrc2) / 2; D may be a source. */
+ZelStatus zelmInterpolationCatmullRom_v2_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3,
+    const float* pSrc4, float weight, float* pDst);
+
+/** the point at weight, 0 to 1, of the Hermite curve from pSrc2 to pSrc3 with the tangents (pSrc3 - pSrc1) / 2 and
+    (pSrc4 - pSrc2) / 2; D may be a source. */
+ZelStatus zelmInterpolationCatmullRom_v3_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3,
+    const float* pSrc4, float weight, float* pDst);
+
+/** the point at weight, 0 to 1, of the Hermite curve from pSrc2 to pSrc3 with the tangents (pSrc3 - pSrc1) / 2 and
+    (pSrc4 - pSrc2) / 2; D may be a source. */
+ZelStatus zelmInterpolationCatmullRom_v4_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3,
+    const float* pSrc4, float weight, float* pDst);
+
+/* ---- InterpolationLinear ---- */
+
+/** D = A + (B - A) weight, which is A exactly at weight 0; D may be a source. */
+ZelStatus zelmInterpolationLinear_v2_32f(const float* pSrc1, const float* pSrc2, float weight, float* pDst);
+
+/** D = A + (B - A) weight, which is A exactly at weight 0; D may be a source. */
+ZelStatus zelmInterpolationLinear_v3_32f(const float* pSrc1, const float* pSrc2, float weight, float* pDst);
+
+/** D = A + (B - A) weight, which is A exactly at weight 0; D may be a source. */
+ZelStatus zelmInterpolationLinear_v4_32f(const float* pSrc1, const float* pSrc2, float weight, float* pDst);
+
+/* ---- Invert ---- */
+
+/** D = inverse of A, by cofactors, and *pDet = det(A) unless pDet is null; D may be A. Singular if |det(A)| < 2^-119:
+    then *pDet = 0 and D is left alone. May return zelStsSingular. */
+ZelStatus zelmInvert_m4_32f(const float* pSrc, float* pDet, float* pDst);
+
+/** D = inverse of A, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute
+    limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as
+    that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address.
+    May return zelStsSingular. */
+ZelStatus zelmInvert_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer, float* pDst,
+    int dstStride1, int dstStride2, int widthHeight);
+
+/** D = inverse of A, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute
+    limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as
+    that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address.
+    May return zelStsSingular. */
+ZelStatus zelmInvert_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer, float* const* ppDst,
+    int dstByteShift, int widthHeight);
+
+/** D = inverse of A, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute
+    limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as
+    that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address.
+    May return zelStsSingular. */
+ZelStatus zelmInvert_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer, double* pDst,
+    int dstStride1, int dstStride2, int widthHeight);
+
+/** D = inverse of A, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute
+    limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as
+    that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address.
+    May return zelStsSingular. */
+ZelStatus zelmInvert_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer, double* const* ppDst,
+    int dstByteShift, int widthHeight);
+
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    float* pDst, int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
+
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
+
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    float* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
+
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
+
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
+
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
+ZelStatus zelmInvert_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
+
+/* ---- IsIdentity ---- */
+
+/** *pResult = 1 if A(0, 0) is 1 and at least one column of A, whichever, equals that of the identity exactly; else 0.
+    True of the identity, but not of it alone. */
+ZelStatus zelmIsIdentity_m4_32f(const float* pSrc, int* pResult);
+
+/* ---- L2Norm ---- */
+
+/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_v_32f(const float* pSrc, int srcStride2, float* pDst, int width);
+
+/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_v_32f_P(const float* const* ppSrc, int srcByteShift, float* pDst, int width);
+
+/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_v_64f(const double* pSrc, int srcStride2, double* pDst, int width);
+
+/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_v_64f_P(const double* const* ppSrc, int srcByteShift, double* pDst, int width);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_32f(const float* pSrc, int srcStride0, int srcStride2, float* pDst, int width, int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float* pDst, int width,
+    int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int width,
+    int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_64f(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int width, int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double* pDst, int width,
+    int count);
+
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+ZelStatus zelmL2Norm_va_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
+    int count);
 
 /* ---- LComb ---- */
 
@@ -1532,6 +2145,28 @@ ZelStatus zelmLUDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, in
 ZelStatus zelmLUDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int* pDstIndex,
     double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
+/* ---- LenSqr ---- */
+
+/** *pDst = a(0)^2 + a(1)^2 + ..., one float, summed in this order. */
+ZelStatus zelmLenSqr_v2_32f(const float* pSrc, float* pDst);
+
+/** *pDst = a(0)^2 + a(1)^2 + ..., one float, summed in this order. */
+ZelStatus zelmLenSqr_v3_32f(const float* pSrc, float* pDst);
+
+/** *pDst = a(0)^2 + a(1)^2 + ..., one float, summed in this order. */
+ZelStatus zelmLenSqr_v4_32f(const float* pSrc, float* pDst);
+
+/* ---- Len ---- */
+
+/** *pDst = sqrt(a(0)^2 + a(1)^2 + ...), one float; infinity where a square exceeds the float range. */
+ZelStatus zelmLen_v2_32f(const float* pSrc, float* pDst);
+
+/** *pDst = sqrt(a(0)^2 + a(1)^2 + ...), one float; infinity where a square exceeds the float range. */
+ZelStatus zelmLen_v3_32f(const float* pSrc, float* pDst);
+
+/** *pDst = sqrt(a(0)^2 + a(1)^2 + ...), one float; infinity where a square exceeds the float range. */
+ZelStatus zelmLen_v4_32f(const float* pSrc, float* pDst);
+
 /* ---- LoadIdentity ---- */
 
 /** D[k](i, j) = 1 where i == j, else 0; D height x width. */
@@ -1557,6 +2192,56 @@ ZelStatus zelmLoadIdentity_ma_64f_L(double* const* ppDst, int dstByteShift, int 
 /** D[k](i, j) = 1 where i == j, else 0; D height x width. */
 ZelStatus zelmLoadIdentity_ma_64f_P(double* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
     int count);
+
+/* ---- LookAtLH ---- */
+
+/** left-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to +z, pUp to the half plane
+    of +y. NaNs where pAt is the eye or pUp lies along the view. */
+ZelStatus zelmLookAtLH_m4_32f(const float* pEye, const float* pAt, const float* pUp, float* pDst);
+
+/* ---- LookAtRH ---- */
+
+/** right-handed view: the eye (3 floats) goes to the origin, the direction from it to pAt to -z, pUp to the half
+    plane of +y. NaNs where pAt is the eye or pUp lies along the view. */
+ZelStatus zelmLookAtRH_m4_32f(const float* pEye, const float* pAt, const float* pUp, float* pDst);
+
+/* ---- Max ---- */
+
+/** d(j) = a(j) > b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMax_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) > b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMax_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) > b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMax_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/* ---- Min ---- */
+
+/** d(j) = a(j) < b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMin_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) < b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMin_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) < b(j) ? a(j) : b(j), so b(j) where either is a NaN; D may be a source. */
+ZelStatus zelmMin_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/* ---- MulC ---- */
+
+/** d(j) = a(j) * val; D may be A. */
+ZelStatus zelmMulC_v2_32f(const float* pSrc, float val, float* pDst);
+
+/** d(j) = a(j) * val; D may be A. */
+ZelStatus zelmMulC_v3_32f(const float* pSrc, float val, float* pDst);
+
+/** d(j) = a(j) * val; D may be A. */
+ZelStatus zelmMulC_v4_32f(const float* pSrc, float val, float* pDst);
+
+/* ---- MulTranspose ---- */
+
+/** D = (A * B)^T, the transpose of the product; D may be a source. */
+ZelStatus zelmMulTranspose_m4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
 
 /* ---- Mul ---- */
 
@@ -1704,6 +2389,66 @@ ZelStatus zelmMul_mata_64f_P(const double* const* ppSrc1, int src1ByteShift, int
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const float* pSrc2, int src2Stride2, int src2Len, float* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift, int dstStride0,
+    int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const double* pSrc2, int src2Stride2, int src2Len, double* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0,
+    int dstStride2, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
+    float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0,
+    int dstStride2, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
+    double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
 /** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_mc_32f(const float* pSrc, int srcStride1, int srcStride2, float val, float* pDst, int dstStride1,
     int dstStride2, int width, int height);
@@ -1719,6 +2464,9 @@ ZelStatus zelmMul_mc_64f(const double* pSrc, int srcStride1, int srcStride2, dou
 /** D(i, j) = A(i, j) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_mc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
     int dstByteShift, int width, int height);
+
+/** D = A * B, which as a transform applies A first; D may be a source. Null pointers are refused. */
+ZelStatus zelmMul_mm4x4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
 
 /** D = A * B; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mm_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
@@ -1814,6 +2562,52 @@ ZelStatus zelmMul_mta_64f_L(const double* pSrc1, int src1Stride1, int src1Stride
 /** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mta_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d = A * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride2);
+
+/** d = A * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift);
+
+/** d = A * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride2);
+
+/** d = A * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
 /** D[k](i, j) = A[k](j, i) * val; D height x width; a transposed operand is stored as width x height. */
@@ -1960,6 +2754,66 @@ ZelStatus zelmMul_tata_64f_P(const double* const* ppSrc1, int src1ByteShift, int
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const float* pSrc2, int src2Stride2, int src2Len, float* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift, int dstStride0,
+    int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const double* pSrc2, int src2Stride2, int src2Len, double* const* ppDst, int dstByteShift,
+    int dstStride2, int count);
+
+/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift,
+    int dstStride0, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0,
+    int dstStride2, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
+    float* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
+    int height, const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0,
+    int dstStride2, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    int width, int height, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
+    double* const* ppDst, int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
 /** D(i, j) = A(j, i) * val; D height x width; a transposed operand is stored as width x height. */
 ZelStatus zelmMul_tc_32f(const float* pSrc, int srcStride1, int srcStride2, float val, float* pDst, int dstStride1,
     int dstStride2, int width, int height);
@@ -2072,6 +2926,52 @@ ZelStatus zelmMul_tta_64f_P(const double* const* ppSrc1, int src1ByteShift, int 
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
+/** d = A^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride2);
+
+/** d = A^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift);
+
+/** d = A^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride2);
+
+/** d = A^T * b; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
+    int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride2, int count);
+
+/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+ZelStatus zelmMul_tva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
+    int dstByteShift, int dstStride0, int count);
+
 /** d[k](j) = a[k](j) * val; vectors of width elements. */
 ZelStatus zelmMul_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
     int dstStride2, int width, int count);
@@ -2157,6 +3057,116 @@ ZelStatus zelmMul_vca_64f_L(const double* pSrc, int srcStride2, const double* co
 /** d[k](j) = a(j) * val[k]; vectors of width elements. */
 ZelStatus zelmMul_vca_64f_P(const double* const* ppSrc, int srcByteShift, const double* pVal, int valStride0,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/* ---- Normalize ---- */
+
+/** d(j) = a(j) / length of A, by division; D may be A. A vector of length 0 gives NaNs. */
+ZelStatus zelmNormalize_v2_32f(const float* pSrc, float* pDst);
+
+/** d(j) = a(j) / length of A, by division; D may be A. A vector of length 0 gives NaNs. */
+ZelStatus zelmNormalize_v3_32f(const float* pSrc, float* pDst);
+
+/** d(j) = a(j) / length of A, by division; D may be A. A vector of length 0 gives NaNs. */
+ZelStatus zelmNormalize_v4_32f(const float* pSrc, float* pDst);
+
+/* ---- OrthoLH ---- */
+
+/** left-handed parallel projection of a box of viewWidth x viewHeight; z = zNear to zFar becomes 0 to 1. */
+ZelStatus zelmOrthoLH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* pDst);
+
+/* ---- OrthoOffCenterLH ---- */
+
+/** left-handed parallel projection of the box left to right, bottom to top; z = zNear to zFar becomes 0 to 1. */
+ZelStatus zelmOrthoOffCenterLH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar,
+    float* pDst);
+
+/* ---- OrthoOffCenterRH ---- */
+
+/** right-handed parallel projection of the box left to right, bottom to top; z = -zNear to -zFar becomes 0 to 1. */
+ZelStatus zelmOrthoOffCenterRH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar,
+    float* pDst);
+
+/* ---- OrthoRH ---- */
+
+/** right-handed parallel projection of a box of viewWidth x viewHeight; z = -zNear to -zFar becomes 0 to 1. */
+ZelStatus zelmOrthoRH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* pDst);
+
+/* ---- PerspectiveFovLH ---- */
+
+/** left-handed perspective by the full vertical angle fovY in radians and aspect = width / height; z = zNear to zFar
+    becomes 0 to 1 after the division by w = z. */
+ZelStatus zelmPerspectiveFovLH_m4_32f(float fovY, float aspect, float zNear, float zFar, float* pDst);
+
+/* ---- PerspectiveFovRH ---- */
+
+/** right-handed perspective by the full vertical angle fovY in radians and aspect = width / height; z = -zNear to
+    -zFar becomes 0 to 1 after the division by w = -z. */
+ZelStatus zelmPerspectiveFovRH_m4_32f(float fovY, float aspect, float zNear, float zFar, float* pDst);
+
+/* ---- PerspectiveLH ---- */
+
+/** left-handed perspective of a near plane of viewWidth x viewHeight; z = zNear to zFar becomes 0 to 1 after the
+    division by w = z. */
+ZelStatus zelmPerspectiveLH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* pDst);
+
+/* ---- PerspectiveOffCenterLH ---- */
+
+/** left-handed perspective of the window left to right, bottom to top of the near plane; z = zNear to zFar becomes 0
+    to 1 after the division by w = z. */
+ZelStatus zelmPerspectiveOffCenterLH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar,
+    float* pDst);
+
+/* ---- PerspectiveOffCenterRH ---- */
+
+/** right-handed perspective of the window left to right, bottom to top of the near plane; z = -zNear to -zFar becomes
+    0 to 1 after the division by w = -z. */
+ZelStatus zelmPerspectiveOffCenterRH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar,
+    float* pDst);
+
+/* ---- PerspectiveRH ---- */
+
+/** right-handed perspective of a near plane of viewWidth x viewHeight; z = -zNear to -zFar becomes 0 to 1 after the
+    division by w = -z. */
+ZelStatus zelmPerspectiveRH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* pDst);
+
+/* ---- Project ---- */
+
+/** a point of the world to the screen: n = A * World * View * Projection, step by step, divided by its fourth
+    element; D = (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down; D may be A. */
+ZelStatus zelmProject_m4v3_32f(const float* pProjection, const float* pView, const float* pWorld, const float* pSrc,
+    float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst);
+
+/** points of the world to the screen: n = A[k] * (World * (View * Projection)) divided by its fourth element; D[k] =
+    (vpWidth (1 + n0) / 2, vpHeight (1 - n1) / 2, vpMinZ + (vpMaxZ - vpMinZ) n2), y down; strides of any size and
+    sign; a count below 1 does nothing; D[k] may be A[k]. */
+ZelStatus zelmProject_m4v3a_32f(const float* pProjection, const float* pView, const float* pWorld, const float* pSrc,
+    int srcStride0, float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst, int dstStride0, int count);
+
+/* ---- RotationAxis ---- */
+
+/** rotation by angle radians about the axis of 3 floats, of any length but 0 (NaNs); about (0, 0, 1) it is that of
+    zelmRotationZ_m4_32f. Rodrigues' formula. */
+ZelStatus zelmRotationAxis_v3m4_32f(const float* pAxis, float angle, float* pDst);
+
+/* ---- RotationX ---- */
+
+/** rotation about the x axis by angle radians, from y towards z. */
+ZelStatus zelmRotationX_m4_32f(float angle, float* pDst);
+
+/* ---- RotationY ---- */
+
+/** rotation about the y axis by angle radians, from z towards x. */
+ZelStatus zelmRotationY_m4_32f(float angle, float* pDst);
+
+/* ---- RotationYawPitchRoll ---- */
+
+/** D = RotationZ(roll) * RotationX(pitch) * RotationY(yaw), that is roll first; radians. */
+ZelStatus zelmRotationYawPitchRoll_m4_32f(float yaw, float pitch, float roll, float* pDst);
+
+/* ---- RotationZ ---- */
+
+/** rotation about the z axis by angle radians, from x towards y: (1, 0, 0) becomes (cos, sin, 0). */
+ZelStatus zelmRotationZ_m4_32f(float angle, float* pDst);
 
 /* ---- Saxpy ---- */
 
@@ -2253,6 +3263,11 @@ ZelStatus zelmSaxpy_vva_64f_L(const double* pSrc1, int src1Stride2, double val, 
 /** d[k](j) = a(j) * val + b[k](j); vectors of width elements. */
 ZelStatus zelmSaxpy_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, double val, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
+
+/* ---- Scaling ---- */
+
+/** D = diag(x, y, z, 1). */
+ZelStatus zelmScaling_m4_32f(float x, float y, float z, float* pDst);
 
 /* ---- Sub ---- */
 
@@ -2766,6 +3781,15 @@ ZelStatus zelmSub_tta_64f_P(const double* const* ppSrc1, int src1ByteShift, cons
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
     int count);
 
+/** d(j) = a(j) - b(j); D may be a source. */
+ZelStatus zelmSub_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) - b(j); D may be a source. */
+ZelStatus zelmSub_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
+/** d(j) = a(j) - b(j); D may be a source. */
+ZelStatus zelmSub_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
+
 /** d[k](j) = a[k](j) - val; vectors of width elements. */
 ZelStatus zelmSub_vac_32f(const float* pSrc, int srcStride0, int srcStride2, float val, float* pDst, int dstStride0,
     int dstStride2, int width, int count);
@@ -2946,7 +3970,53 @@ ZelStatus zelmSub_vva_64f_L(const double* pSrc1, int src1Stride2, const double* 
 ZelStatus zelmSub_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
 
+/* ---- Trace ---- */
+
+/** *pDst = sum over i of A(i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_m_32f(const float* pSrc, int srcStride1, int srcStride2, int widthHeight, float* pDst);
+
+/** *pDst = sum over i of A(i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_m_32f_P(const float* const* ppSrc, int srcByteShift, int widthHeight, float* pDst);
+
+/** *pDst = sum over i of A(i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_m_64f(const double* pSrc, int srcStride1, int srcStride2, int widthHeight, double* pDst);
+
+/** *pDst = sum over i of A(i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_m_64f_P(const double* const* ppSrc, int srcByteShift, int widthHeight, double* pDst);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
+    float* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int widthHeight, float* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
+    float* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
+    double* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    int widthHeight, double* pDst, int count);
+
+/** pDst[k] = sum over i of A[k](i, i); square matrices of order widthHeight. */
+ZelStatus zelmTrace_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
+    double* pDst, int count);
+
+/* ---- Translation ---- */
+
+/** p D = p + (x, y, z): the identity with x, y, z in M[12], M[13], M[14]. */
+ZelStatus zelmTranslation_m4_32f(float x, float y, float z, float* pDst);
+
 /* ---- Transpose ---- */
+
+/** D = A^T; D may be A. */
+ZelStatus zelmTranspose_m4_32f(const float* pSrc, float* pDst);
 
 /** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
 ZelStatus zelmTranspose_m_32f(const float* pSrc, int srcStride1, int srcStride2, int width, int height, float* pDst,
@@ -2987,6 +4057,22 @@ ZelStatus zelmTranspose_ma_64f_L(const double* const* ppSrc, int srcByteShift, i
 /** D(j, i) = A(i, j) of every object; source height x width; destination width x height. */
 ZelStatus zelmTranspose_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
     double* const* ppDst, int dstByteShift, int dstStride0, int count);
+
+/* ---- Unproject ---- */
+
+/** a point of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ -
+    vpMinZ)) times the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. D
+    may be A; where there is no inverse D is n. May return zelStsSingular. */
+ZelStatus zelmUnproject_m4v3_32f(const float* pProjection, const float* pView, const float* pWorld, const float* pSrc,
+    float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst);
+
+/** points of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ -
+    vpMinZ)) times the inverse, taken in double, of (World * View) * Projection, divided by its fourth element.
+    Where there is no inverse nothing is written; strides of any size and sign; a count below 1 does nothing; D[k]
+    may be A[k]. May return zelStsSingular. */
+ZelStatus zelmUnproject_m4v3a_32f(const float* pProjection, const float* pView, const float* pWorld,
+    const float* pSrc, int srcStride0, float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst,
+    int dstStride0, int count);
 
 #ifdef __cplusplus
 }
