@@ -131,7 +131,9 @@ TEST(Checks, EveryBadArgumentAloneAndInPairs) {
     ASSERT_TRUE(arguments.untouched()) << f.name;
     const ZelStatus accepted = call.call(values.data());  // the good arguments are good, and would have been written to
     ASSERT_TRUE(accepted == zelStsOk || f.merges_status()) << f.name << " " << accepted;
-    ASSERT_FALSE(arguments.untouched()) << f.name;
+    if (accepted == zelStsOk) {
+      ASSERT_FALSE(arguments.untouched()) << f.name;
+    }
   }
   EXPECT_GT(functions, 200);
 }
