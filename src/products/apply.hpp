@@ -53,30 +53,59 @@ ZELM_INLINE bool batched(const A& a, const B& b, const C& c, const D& d, int cou
   }
 }
 
-/// The fastest way for the memory at hand; the bits are the order's.
+/// The stored rows are op(A)'s columns or its rows.
+template <bool turned, class A>
+ZELM_INLINE auto columns_of(const A& a) {
+  if constexpr (turned) return a;
+  else return transposed(a);
+}
+template <bool turned, class A>
+ZELM_INLINE auto rows_for(const A& a) {
+  return columns_of<!turned>(a);
+}
+
+/// The fastest way for contiguous elements of whole arrays; the bits are the order's.
+template <class Order, int N, bool turned, class A, class B, class C, class D>
+ZELM_INLINE void fixed_contiguous(const A& a, const B& b, const C& c, const D& d, int count) {
+  using T = typename D::T;
+  const auto columns = columns_of<turned>(a);
+  if constexpr (A::array && turned) in_columns<Order, N>(columns, b, c, d, count);
+  else if constexpr (N % 2 == 0 && !std::is_same_v<Order, Ascending>) in_pairs<N>(rows_for<turned>(a), b, c, d, count);
+  else if constexpr (!A::array && std::is_same_v<T, double>) in_columns<Order, N>(columns, b, c, d, count);
+  else in_lanes<Order, N, turned, false>(a, b, c, d, count);
+}
+
 template <class Order, int N, bool turned, class A, class B, class C, class D>
 ZELM_INLINE void fixed(const A& a, const B& b, const C& c, const D& d, int count) {
   using T = typename D::T;
-  constexpr bool contiguous = std::is_same_v<decltype(d.object(0)), StridedObject<T, true>>;
-  const auto columns = [&] {
-    if constexpr (turned) return a;
-    else return transposed(a);
-  };
+  constexpr bool contiguous = std::is_same_v<typename D::Object, StridedObject<T, true>>;
   if constexpr (std::is_same_v<Order, ResidentOrBatched>)
     if (batched<N>(a, b, c, d, count)) return;
   if constexpr (!D::array) {
-    in_columns<Order, N>(columns(), b, c, d, 1);
+    in_columns<Order, N>(columns_of<turned>(a), b, c, d, 1);
   } else if constexpr (!contiguous) {
+    // Matrices column by column have vectors of adjacent elements all the same.
+    if constexpr (!A::array && requires { b.as_adjacent(); }) {
+      const auto adjacent = [](const auto& view) {
+        if constexpr (requires { view.element_stride; }) return view.element_stride == Bytes(sizeof(T));
+        else return true;
+      };
+      if (adjacent(b) && adjacent(c) && adjacent(d)) {
+        if constexpr (std::is_same_v<C, None>)
+          return in_columns<Order, N>(columns_of<turned>(a), b.as_adjacent(), c, d.as_adjacent(), count);
+        else return in_columns<Order, N>(columns_of<turned>(a), b.as_adjacent(), c.as_adjacent(), d.as_adjacent(), count);
+      }
+    }
     in_any_memory<N, turned>(a, b, c, d, count);
-  } else if constexpr (A::array && turned) {
-    in_columns<Order, N>(a, b, c, d, count);
-  } else if constexpr (N % 2 == 0 && !std::is_same_v<Order, Ascending>) {
-    if constexpr (turned) in_pairs<N>(transposed(a), b, c, d, count);
-    else in_pairs<N>(a, b, c, d, count);
-  } else if constexpr (!A::array && std::is_same_v<T, double>) {
-    in_columns<Order, N>(columns(), b, c, d, count);
   } else {
-    in_lanes<Order, N, turned, false>(a, b, c, d, count);
+    // In whole registers, and if that is most of a cache, past the caches.
+    if constexpr (N % Pack<T>::lanes == 0 && requires { d.first; }) {
+      if (d.tight(1, N) && worth_streaming(d.first, std::ptrdiff_t(N) * count)) {
+        fixed_contiguous<Order, N, turned>(a, b, c, Streamed<D>{d}, count);
+        return _mm_sfence();
+      }
+    }
+    fixed_contiguous<Order, N, turned>(a, b, c, d, count);
   }
 }
 

@@ -56,11 +56,27 @@ struct Batched {
 
 // Lanes are objects
 
-/// R x C elements of several objects, of an array or the one operand of a call in every lane. `beside`: the arrays are
-/// interleaved.
+/// The one operand of a call in every lane; of an array nothing yet.
+template <int R, int C, class View>
+struct Splats {
+  Lanes<typename View::T, R, C> all;
+  explicit Splats(const View& view) {
+    const auto object = view.object(0);
+    ZELM_AS_IT_STANDS for (int i = 0; i < R; ++i) {
+      ZELM_UNROLL for (int j = 0; j < C; ++j) all.e[i][j] = Pack<typename View::T>::splat(object.element(i, j));
+    }
+  }
+};
+template <int R, int C, class View>
+requires(View::array || std::is_same_v<View, None>) struct Splats<R, C, View> {
+  explicit Splats(const View&) {}
+};
+
+/// R x C elements of several objects: a few words, to be copied. `beside`: arrays are interleaved.
 template <int R, int C, bool beside, class View>
 struct InLanes {
   View view;
+  InLanes(const View& v, const Splats<R, C, View>&) : view(v) {}
   ZELM_INLINE auto at(std::ptrdiff_t n, int valid) const {
     Lanes<typename View::T, R, C> lanes;
     if constexpr (beside) {
@@ -76,19 +92,13 @@ struct InLanes {
 };
 template <int R, int C, bool beside, class View>
 requires(!View::array) struct InLanes<R, C, beside, View> {
-  using T = typename View::T;
-  Lanes<T, R, C> all;
-  explicit InLanes(const View& view) {
-    const auto object = view.object(0);
-    ZELM_AS_IT_STANDS for (int i = 0; i < R; ++i) {
-      ZELM_UNROLL for (int j = 0; j < C; ++j) all.e[i][j] = Pack<T>::splat(object.element(i, j));
-    }
-  }
-  ZELM_INLINE const Lanes<T, R, C>& at(std::ptrdiff_t, int) const { return all; }
+  const Lanes<typename View::T, R, C>* all;
+  InLanes(const View&, const Splats<R, C, View>& splats) : all(&splats.all) {}
+  ZELM_INLINE const auto& at(std::ptrdiff_t, int) const { return *all; }
 };
 template <int R, int C, bool beside>
 struct InLanes<R, C, beside, None> {
-  explicit InLanes(None) {}
+  InLanes(None, const Splats<R, C, None>&) {}
   ZELM_INLINE None at(std::ptrdiff_t, int) const { return {}; }
 };
 
@@ -96,10 +106,13 @@ struct InLanes<R, C, beside, None> {
 template <class Order, int N, bool turned, bool beside, class A, class B, class C, class D>
 __attribute__((noinline)) void in_lanes(A a, B b, C c, D d, int count) {
   using P = Pack<typename D::T>;
-  const InLanes<N, N, beside, A> matrices{a};
-  const InLanes<1, N, beside, B> vectors{b};
-  const InLanes<1, N, beside, C> addends{c};
-  const auto block = [&, d](std::ptrdiff_t n, auto valid) ZELM_INLINE_LAMBDA {
+  const Splats<N, N, A> matrix(a);
+  const Splats<1, N, B> vector(b);
+  const Splats<1, N, C> addend(c);
+  const InLanes<N, N, beside, A> matrices(a, matrix);
+  const InLanes<1, N, beside, B> vectors(b, vector);
+  const InLanes<1, N, beside, C> addends(c, addend);
+  const auto block = [=](std::ptrdiff_t n, auto valid) ZELM_INLINE_LAMBDA {
     const auto& m = matrices.at(n, valid);
     const auto& x = vectors.at(n, valid);
     const auto& y = addends.at(n, valid);
@@ -123,39 +136,59 @@ __attribute__((noinline)) void in_lanes(A a, B b, C c, D d, int count) {
 /// Any memory, in the order Ascending: lanes are objects for as many as fill them.
 template <int N, bool turned, class A, class B, class C, class D>
 ZELM_INLINE void in_any_memory(const A& a, const B& b, const C& c, const D& d, int count) {
-  constexpr int L = Pack<typename D::T>::lanes;
+  using T = typename D::T;
+  constexpr int L = Pack<T>::lanes;
   const auto beside = [](const auto& view) { return !view.array || view.interleaved(); };
   if (count >= L) {
     if (beside(a) && beside(b) && beside(c) && beside(d)) in_lanes<Ascending, N, turned, true>(a, b, c, d, count);
     else in_lanes<Ascending, N, turned, false>(a, b, c, d, count);
   }
   for (std::ptrdiff_t n = count / L * L; n < count; ++n) {
+    T elements[N];  // the whole vector first, as in lanes
+    b.object(n).template row<N>(0).store(elements);
+    const StridedObject<const T, true> vector{elements, 0, sizeof(T)};
     if constexpr (turned)
-      one_by_one<false>(TransposedObject<typename A::Object>{a.object(n)}, b.object(n), c.object(n), d.object(n), N, N);
-    else one_by_one<false>(a.object(n), b.object(n), c.object(n), d.object(n), N, N);
+      one_by_one<false>(TransposedObject<typename A::Object>{a.object(n)}, vector, c.object(n), d.object(n), N, N);
+    else one_by_one<false>(a.object(n), vector, c.object(n), d.object(n), N, N);
   }
 }
 
 // Lanes are elements of dst
+
+/// Vectors without gaps, of whole registers, that are stored past the caches.
+template <class View>
+struct Streamed {
+  using T = typename View::T;
+  static constexpr bool array = true;
+  View view;
+  struct Object {
+    T* base;
+    template <int N>
+    ZELM_INLINE void set_row(int, const Row<T, N>& r) const {
+      ZELM_UNROLL for (int q = 0; q < Row<T, N>::packs; ++q) r.pack[q].stream(base + q * Pack<T>::lanes);
+    }
+  };
+  ZELM_INLINE Object object(std::ptrdiff_t n) const { return {view.object(n).base}; }
+};
 
 /// Element k of a vector in every lane of column k.
 template <int N, class View>
 struct Factors {
   using P = Pack<typename View::T>;
   View view;
-  struct Splats {
+  struct Packs {
     P e[N];
   };
-  ZELM_INLINE Splats at(std::ptrdiff_t n) const {
+  ZELM_INLINE Packs at(std::ptrdiff_t n) const {
     const auto x = view.object(n);
-    Splats splats;
+    Packs splats;
     ZELM_UNROLL for (int k = 0; k < N; ++k) splats.e[k] = P::splat(x.element(0, k));
     return splats;
   }
 };
 template <int N, class View>
 requires(!View::array) struct Factors<N, View> {
-  typename Factors<N, StridedView<const typename View::T, true, true>>::Splats all;
+  typename Factors<N, StridedView<const typename View::T, true, true>>::Packs all;
   explicit ZELM_INLINE Factors(const View& view) {
     const auto x = view.object(0);
     ZELM_UNROLL for (int k = 0; k < N; ++k) all.e[k] = Pack<typename View::T>::splat(x.element(0, k));

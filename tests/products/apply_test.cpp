@@ -1,4 +1,5 @@
 // A matrix with vectors against scalar sums in the order that each kernel has, bit for bit.
+#include <algorithm>
 #include <cmath>
 #include <set>
 
@@ -183,6 +184,40 @@ TEST_P(Apply, EveryCountOfAlignedVectors) {
 INSTANTIATE_TEST_SUITE_P(All, Apply, testing::ValuesIn(family("", "apply")), FunctionTest::name);
 
 TEST(ApplyFamily, IsComplete) { EXPECT_EQ(family("", "apply").size(), 60u); }
+
+/// Results of 64 MiB and more go past the caches. They are those of the same vectors in several calls.
+TEST(ApplyStreamed, LargeResultsAreThoseOfSmallOnes) {
+  constexpr int count = (64 << 20) / 16 + 1;
+  const auto check_large = [](const char* name, auto zero, int n) {
+    using T = decltype(zero);
+    const int E = sizeof(T), objects = count * 16 / (n * E);
+    const std::vector<T> a = Random(1).uniforms<T>(n * n), x = Random(2).uniforms<T>(n * objects);
+    std::vector<T> got(x.size() + 1), want(x.size() + 1);
+    const auto run = [&](std::vector<T>& to, int first, int vectors) {
+      const auto bytes = [&](const T* p) { return const_cast<T*>(p); };
+      const Value values[] = {{.p = bytes(a.data())},
+                              {.i = n * E},
+                              {.i = E},
+                              {.i = n},
+                              {.i = n},
+                              {.p = bytes(&x[std::size_t(first * n)])},
+                              {.i = n * E},
+                              {.i = E},
+                              {.i = n},
+                              {.p = &to[std::size_t(first * n)]},
+                              {.i = n * E},
+                              {.i = E},
+                              {.i = vectors}};
+      EXPECT_EQ(find(name).call(values), zelStsOk);
+    };
+    use_threads(1);
+    run(got, 0, objects);
+    for (int first = 0; first < objects; first += 1 << 20) run(want, first, std::min(1 << 20, objects - first));
+    EXPECT_TRUE(got == want) << name;
+  };
+  check_large("zelmMul_mva_32f", float(), 4);
+  check_large("zelmMul_tva_64f", double(), 6);
+}
 
 /// Where an element of the destination stands within as many elements from the start of a row of A or of the vector as are added,
 /// counted without gaps, the _S2 kernels of stored matrices add one by one, and else in steps of eight. Here the destination's one
