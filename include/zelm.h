@@ -593,95 +593,95 @@ ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2,
 
 /* ---- CrossProduct ---- */
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
     int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
     const float* pSrc2, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const float* const* ppSrc2, int src2ByteShift, float* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
     int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
     const double* pSrc2, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const double* const* ppSrc2, int src2ByteShift, double* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
     int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
     int dstStride2, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
     int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
     int dstStride2, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** d = a x b; vectors of 3 elements. */
+/** d = a x b; d must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vv_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride2,
     float* pDst, int dstStride2);
 
-/** d = a x b; vectors of 3 elements. */
+/** d = a x b; d must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vv_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
     int src2ByteShift, float* const* ppDst, int dstByteShift);
 
-/** d = a x b; vectors of 3 elements. */
+/** d = a x b; d must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vv_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride2,
     double* pDst, int dstStride2);
 
-/** d = a x b; vectors of 3 elements. */
+/** d = a x b; d must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride0,
     int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_32f_L(const float* pSrc1, int src1Stride2, const float* const* ppSrc2,
     int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
     int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride0,
     int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_64f_L(const double* pSrc1, int src1Stride2, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int count);
 
@@ -861,39 +861,39 @@ ZelStatus zelmExtract_va_64f_P(const double* const* ppSrc, int srcByteShift, int
 
 /* ---- FrobNorm ---- */
 
-/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_m_32f(const float* pSrc, int srcStride1, int srcStride2, int width, int height, float* pDst);
 
-/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_m_32f_P(const float* const* ppSrc, int srcByteShift, int width, int height, float* pDst);
 
-/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_m_64f(const double* pSrc, int srcStride1, int srcStride2, int width, int height, double* pDst);
 
-/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_m_64f_P(const double* const* ppSrc, int srcByteShift, int width, int height, double* pDst);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
     int height, float* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int width, int height, float* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
     float* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
     int height, double* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int width, int height, double* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
     double* pDst, int count);
 
@@ -904,37 +904,43 @@ const ZelLibVersion* zelmGetLibVersion(void);
 
 /* ---- L2Norm ---- */
 
-/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+/** *pDst = sqrt(sum over j of a(j)^2); infinite or 0 where the squares leave the range; vectors of width elements. */
 ZelStatus zelmL2Norm_v_32f(const float* pSrc, int srcStride2, float* pDst, int width);
 
-/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+/** *pDst = sqrt(sum over j of a(j)^2); infinite or 0 where the squares leave the range; vectors of width elements. */
 ZelStatus zelmL2Norm_v_32f_P(const float* const* ppSrc, int srcByteShift, float* pDst, int width);
 
-/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+/** *pDst = sqrt(sum over j of a(j)^2); infinite or 0 where the squares leave the range; vectors of width elements. */
 ZelStatus zelmL2Norm_v_64f(const double* pSrc, int srcStride2, double* pDst, int width);
 
-/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+/** *pDst = sqrt(sum over j of a(j)^2); infinite or 0 where the squares leave the range; vectors of width elements. */
 ZelStatus zelmL2Norm_v_64f_P(const double* const* ppSrc, int srcByteShift, double* pDst, int width);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_32f(const float* pSrc, int srcStride0, int srcStride2, float* pDst, int width, int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float* pDst, int width,
     int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int width,
     int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_64f(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int width, int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double* pDst, int width,
     int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
     int count);
 
