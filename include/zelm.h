@@ -1282,6 +1282,154 @@ ZelStatus zelmMul_vca_64f_L(const double* pSrc, int srcStride2, const double* co
 ZelStatus zelmMul_vca_64f_P(const double* const* ppSrc, int srcByteShift, const double* pVal, int valStride0,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int count);
 
+/* ---- QRBackSubst ---- */
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
+    void* pBuffer, const float* pSrc2, int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2,
+    int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    void* pBuffer, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, void* pBuffer,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
+    void* pBuffer, const double* pSrc2, int src2Stride0, int src2Stride2, double* pDst, int dstStride0,
+    int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    void* pBuffer, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, void* pBuffer,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int height, int count);
+
+/** least-squares solution of A x = b from the result of zelmQRDecomp; A height x width; b height, x width elements;
+    pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const float* pSrc2, int src2Stride2, float* pDst, int dstStride2, int width, int height);
+
+/** least-squares solution of A x = b from the result of zelmQRDecomp; A height x width; b height, x width elements;
+    pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, void* pBuffer,
+    const float* const* ppSrc2, int src2ByteShift, float* const* ppDst, int dstByteShift, int width, int height);
+
+/** least-squares solution of A x = b from the result of zelmQRDecomp; A height x width; b height, x width elements;
+    pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const double* pSrc2, int src2Stride2, double* pDst, int dstStride2, int width, int height);
+
+/** least-squares solution of A x = b from the result of zelmQRDecomp; A height x width; b height, x width elements;
+    pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, void* pBuffer,
+    const double* const* ppSrc2, int src2ByteShift, double* const* ppDst, int dstByteShift, int width, int height);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const float* pSrc2, int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int width,
+    int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
+    int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, void* pBuffer,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const double* pSrc2, int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int width,
+    int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
+    int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, void* pBuffer,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int height, int count);
+
+/* ---- QRDecomp ---- */
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer, float* pDst,
+    int dstStride1, int dstStride2, int width, int height);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer, float* const* ppDst,
+    int dstByteShift, int width, int height);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer, double* pDst,
+    int dstStride1, int dstStride2, int width, int height);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer, double* const* ppDst,
+    int dstByteShift, int width, int height);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    float* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height,
+    int count);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height,
+    int count);
+
+/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
+    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
 /* ---- Saxpy ---- */
 
 /** d[k](j) = a[k](j) * val + b(j); vectors of width elements. */

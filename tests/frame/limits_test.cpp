@@ -27,6 +27,7 @@ constexpr Limits kVector = {4801, 4801, 2501, 2501, 1501, 1401, 1401, 2501, 2501
 constexpr Limits kScale = {2101, 2101, 1201, 1201, 651, 2101, 2101, 1201, 1201, 651};
 constexpr Limits kSaxpy = {3001, 2001, 1501, 1001, 1201, 3001, 1201, 1001, 1001, 1201};
 constexpr Limits kWeighted = {4501, 4501, 4501, 3751, 4501, 4501, 4501, 4501, 4501, 4501};
+constexpr Limits kQR = {2801, 2801, 1801, 1801, 1801, 2801, 2801, 1801, 1801, 1801};
 constexpr Limits everywhere(int limit) {
   Limits all{};
   all.fill(limit);
@@ -63,6 +64,9 @@ const struct Rule {
      "ma",
      [](auto c, auto n, auto) { return c * n * n; },
      {7501, 7501, 2001, 2001, 2001, 2001, 2001, 721, 2001, 2001}},
+    {"QRDecomp", "ma", kTwoArrays, kQR},
+    {"QRBackSubst", "mva", [](auto c, auto w, auto h) { return w * h + c * w + c * h; }, kQR},
+    {"QRBackSubst", "mava", [](auto c, auto w, auto h) { return c * w * h + c * w + c * h; }, kQR},
     {"CholeskyBackSubst", "mva", kOneFactor, {1201, 1201, 721, 721, 721, 721, 721, 721, 721, 721}},
     {"CholeskyBackSubst", "mava", kOwnFactors, {2051, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 2051}},
 };
@@ -120,8 +124,9 @@ TEST(Limits, EveryArrayFunctionAsksFromItsLimitOn) {
         EXPECT_EQ(asked(f.name, 4000, 4, 1, contiguous), 0) << f.name;
         continue;
       }
-      for (const auto& [w, height] : {std::pair{1, 1}, {2, 2}, {3, 1}, {4, 3}}) {
-        const int h = f.operands[0].matrix ? height : 1;
+      for (const auto& [long_side, short_side] : {std::pair{1, 1}, {2, 2}, {3, 1}, {4, 3}}) {
+        const bool tall = f.name.starts_with("QR");
+        const int w = tall ? short_side : long_side, h = tall ? long_side : f.operands[0].matrix ? short_side : 1;
         int c = 1;
         while (rule->cost(c + 1, w, h) < limit) ++c;
         exact += rule->cost(c, w, h) == limit - 1;

@@ -262,7 +262,7 @@ ZelStatus Scene::run(const Road& road, Data<T>& data) {
     Byte* const first = region(index).place(bytes, memory[0].offset, memory[0].at_end);
     windows.emplace_back(index, first, bytes);
     std::memcpy(first, array.data(), bytes);
-    if (!a.source) outputs.push_back({first, bytes_of(array), bytes});
+    if (!a.source || a.name == "pBuffer") outputs.push_back({first, bytes_of(array), bytes});
     return first;
   };
   std::vector<Value> values;
