@@ -1,10 +1,12 @@
 #include "surface.hpp"
 
+#include <Eigen/Cholesky>
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
+#include <cstdio>
 #include <limits>
+#include <stdexcept>
 
 namespace terrain {
 namespace {
@@ -68,49 +70,62 @@ bool determined(const float* matrix) {
   return true;
 }
 
-// One cell's equations; false if the window does not determine them.
-bool set_up(const float* window, std::size_t stride, float* matrix, float* right_side) {
-  const float center = window[kReach * stride + kReach];
-  if (std::isnan(center)) return false;
-  float rise[kWindow], squares = 0;
-  std::uint32_t present = 0;
-  int count = 0;
-  for (int k = 0; k < kWindow; ++k) {
-    const float height = window[std::size_t(k / kSide) * stride + std::size_t(k % kSide)];
-    const bool here = !std::isnan(height);
-    rise[k] = here ? height - center : 0;
-    squares += rise[k] * rise[k];
-    present |= std::uint32_t{here} << k;
-    count += here;
-  }
+struct Window {
+  float rise[kWindow], weight[kWindow];  // 0 where there are no data
+  int count = 0;                         // 0 if the center has no data
+};
 
-  const float mean = squares / float(count);
-  float moments[kMoments] = {}, sums[kTerms] = {};
+Window look(const float* heights, std::size_t stride) {
+  Window window;
+  const float center = heights[kReach * stride + kReach];
+  if (std::isnan(center)) return window;
+  float squares = 0;
   for (int k = 0; k < kWindow; ++k) {
-    if (!(present >> k & 1)) continue;
-    const float weight = mean > 0 ? mean / (mean + rise[k] * rise[k]) : 1;
+    const float height = heights[std::size_t(k / kSide) * stride + std::size_t(k % kSide)];
+    const bool here = !std::isnan(height);
+    window.rise[k] = here ? height - center : 0;
+    window.weight[k] = here;
+    squares += window.rise[k] * window.rise[k];
+    window.count += here;
+  }
+  const float mean = squares / float(window.count);
+  for (int k = 0; k < kWindow; ++k)
+    if (window.weight[k] > 0 && mean > 0) window.weight[k] = mean / (mean + window.rise[k] * window.rise[k]);
+  return window;
+}
+
+// One cell's equations; false if the window does not determine them.
+bool set_up(const Window& window, float* matrix, float* right_side, float& squares) {
+  if (window.count == 0) return false;
+  float moments[kMoments] = {}, sums[kTerms] = {};
+  squares = 0;
+  for (int k = 0; k < kWindow; ++k) {
+    const float weight = window.weight[k], rise = window.rise[k];
+    if (weight == 0) continue;
     for (int m = 0; m < kMoments; ++m) moments[m] += weight * kMonomials[k][m];
-    for (int i = 0; i < kTerms; ++i) sums[i] += weight * rise[k] * kMonomials[k][entry(i, kTerms - 1)];
+    for (int i = 0; i < kTerms; ++i) sums[i] += weight * rise * kMonomials[k][entry(i, kTerms - 1)];
+    squares += weight * rise * rise;
   }
   for (int i = 0; i < kTerms; ++i) {
     right_side[i] = sums[i];
     for (int j = 0; j < kTerms; ++j) matrix[i * kTerms + j] = moments[entry(i, j)];
   }
-  return count == kWindow || determined(matrix);
+  return window.count == kWindow || determined(matrix);
 }
 
 }  // namespace
 
 NormalEquations normal_equations(const Grid& grid) {
   NormalEquations equations{std::vector<float>(grid.cells() * kTerms * kTerms), std::vector<float>(grid.cells() * kTerms),
-                            std::vector<bool>(grid.cells())};
+                            std::vector<float>(grid.cells()), std::vector<bool>(grid.cells())};
   const Padded padded(grid);
   std::size_t cell = 0;
   for (int row = 0; row < grid.rows; ++row)
     for (int column = 0; column < grid.columns; ++column, ++cell) {
       float* const matrix = &equations.matrices[cell * kTerms * kTerms];
       float* const right_side = &equations.right_sides[cell * kTerms];
-      equations.fitted[cell] = set_up(padded.window(row, column), padded.stride(), matrix, right_side);
+      const Window window = look(padded.window(row, column), padded.stride());
+      equations.fitted[cell] = set_up(window, matrix, right_side, equations.squares[cell]);
       if (equations.fitted[cell]) continue;
       for (int i = 0; i < kTerms; ++i) {
         right_side[i] = 0;
@@ -118,6 +133,52 @@ NormalEquations normal_equations(const Grid& grid) {
       }
     }
   return equations;
+}
+
+Observations observations(const Grid& grid, const NormalEquations& equations) {
+  static_assert(kWindow == kObservations);
+  Observations result{std::vector<float>(grid.cells() * kWindow * kTerms), std::vector<float>(grid.cells() * kWindow)};
+  const Padded padded(grid);
+  std::size_t cell = 0;
+  for (int row = 0; row < grid.rows; ++row)
+    for (int column = 0; column < grid.columns; ++column, ++cell) {
+      float* const matrix = &result.matrices[cell * kWindow * kTerms];
+      if (!equations.fitted[cell]) {
+        for (int i = 0; i < kTerms; ++i) matrix[i * kTerms + i] = 1;
+        continue;
+      }
+      const Window window = look(padded.window(row, column), padded.stride());
+      for (int k = 0; k < kWindow; ++k) {
+        const float root = std::sqrt(window.weight[k]);
+        for (int i = 0; i < kTerms; ++i) matrix[k * kTerms + i] = root * kMonomials[k][entry(i, kTerms - 1)];
+        result.right_sides[cell * kWindow + std::size_t(k)] = root * window.rise[k];
+      }
+    }
+  return result;
+}
+
+Distance largest_distance(const NormalEquations& equations, const std::vector<float>& x, const std::vector<float>& y) {
+  using Matrix = Eigen::Matrix<float, kTerms, kTerms>;
+  using Vector = Eigen::Matrix<float, kTerms, 1>;
+  constexpr double kRoundings = 1900 * 0x1p-24;
+  Distance largest{0, 0};
+  for (std::size_t cell = 0; cell < equations.fitted.size(); ++cell) {
+    if (!equations.fitted[cell]) continue;
+    const auto matrix = Eigen::Map<const Matrix>(&equations.matrices[cell * kTerms * kTerms]).cast<double>().eval();
+    const auto p = Eigen::Map<const Vector>(&x[cell * kTerms]).cast<double>().eval();
+    const auto q = Eigen::Map<const Vector>(&y[cell * kTerms]).cast<double>().eval();
+    const double trace = matrix.trace(), heights = std::sqrt(double(equations.squares[cell]));
+    const double residuals = kRoundings * (trace * (p.norm() + q.norm()) + 2 * std::sqrt(trace) * heights);
+    const double inverse = matrix.llt().solve(decltype(matrix)::Identity()).trace();  // no less than its norm
+    const double metres = (p - q).norm(), share = metres > 0 ? metres / (inverse * residuals) : 0;
+    if (!(share <= 1)) {
+      char text[128];
+      std::snprintf(text, sizeof text, "cell %zu: the methods differ by %g m, %g times the bound", cell, metres, share);
+      throw std::runtime_error(text);
+    }
+    largest = {std::max(largest.metres, metres), std::max(largest.share, share)};
+  }
+  return largest;
 }
 
 std::vector<Surface> surfaces(const Grid& grid, const NormalEquations& equations, const std::vector<float>& coefficients) {

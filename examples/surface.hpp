@@ -23,10 +23,32 @@ inline constexpr int kTerms = 6;  // coefficients, in the order of the formula a
 struct NormalEquations {
   std::vector<float> matrices;     // kTerms x kTerms for every cell; the identity where there is nothing to fit
   std::vector<float> right_sides;  // kTerms for every cell; 0 where there is nothing to fit
+  std::vector<float> squares;      // weighted sum of the squared heights, for every cell
   std::vector<bool> fitted;
 };
 
 NormalEquations normal_equations(const Grid& grid);
+
+// What the normal equations are made of: a row for every cell of the window and its height, both times the root of its weight.
+inline constexpr int kObservations = 25;
+struct Observations {
+  std::vector<float> matrices;     // kObservations x kTerms for every cell; ones on the diagonal where there is nothing to fit
+  std::vector<float> right_sides;  // kObservations for every cell; 0 where there is nothing to fit
+};
+
+Observations observations(const Grid& grid, const NormalEquations& equations);
+
+// How far apart two solutions of the same least-squares problems are: the largest distance of two sets of coefficients, in metres,
+// and as a share of its bound. Throws if one exceeds it. Solutions that satisfy normal equations A x = b up to residuals r and s
+// are at most |inverse of A| (|r| + |s|) apart. With u = 2^-24, |r| <= 1900 u (trace A |x| + root(trace A) |heights|), all in
+// 2-norms: of A and b themselves 26 u for each sum; and QR, whose six reflections of 25 elements turn the rows M, with |M|^2 at
+// most trace A, into those of a problem that differs by 6 * 150 u |M| (Higham, Accuracy and Stability of Numerical Algorithms
+// (2002), theorem 20.3 with its constant counted out), which comes in twice, and roots and substitution, a few u. LU and Cholesky
+// stay far below that.
+struct Distance {
+  double metres, share;
+};
+Distance largest_distance(const NormalEquations& equations, const std::vector<float>& x, const std::vector<float>& y);
 
 struct Surface {         // of one cell; NaN where nothing was fitted
   float east, north;     // slope: rise per metre eastward and northward

@@ -1,11 +1,13 @@
 // terrain: slope and curvature of an elevation grid. Fits a quadric around every cell (surface.hpp) with two calls of
-// zelm, one that decomposes the normal matrices of all cells and one that solves them all; times both beside the same
-// work by Eigen, checks every residual, and draws the result.
+// zelm, one that decomposes the matrices of all cells and one that solves them all; times both beside the same work by
+// Eigen, checks every solution, and draws the result.
 #include <unistd.h>
 #include <zelcore.h>
 #include <zelm.h>
 
+#include <Eigen/Cholesky>
 #include <Eigen/LU>
+#include <Eigen/QR>
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -14,6 +16,7 @@
 #include <cstring>
 #include <filesystem>
 #include <limits>
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -29,7 +32,7 @@ namespace terrain {
 namespace {
 
 constexpr char kUsage[] =
-    "Usage: terrain [-o FILE] [--repeat N] [GRID]\n"
+    "Usage: terrain [-o FILE] [--method M] [--repeat N] [GRID]\n"
     "\n"
     "Fits a quadric around every cell of an elevation grid, reports how long that takes, and draws slope and\n"
     "mean curvature.\n"
@@ -37,13 +40,17 @@ constexpr char kUsage[] =
     "  GRID        ESRI ASCII grid, in degrees or metres (default: " TERRAIN_GRID
     ")\n"
     "  -o FILE     the picture, a PNG file (default: terrain.png)\n"
+    "  --method M  lu or cholesky of the 6 normal equations, or qr of the 25 equations behind them (default: lu)\n"
     "  --repeat N  time every call N times, 1 to 1000, and report the median (default: 9)\n"
     "  --help      print this and exit\n"
     "\n"
     "OMP_NUM_THREADS sets what \"all threads\" are.\n";
 
+enum class Method { lu, cholesky, qr };
+
 struct Options {
   std::string grid = TERRAIN_GRID, picture = "terrain.png";
+  Method method = Method::lu;
   int repeat = 9;
   bool help = false;
 };
@@ -61,6 +68,12 @@ Options parse(int argc, char** argv) {
       options.help = true;
     } else if (argument == "-o") {
       options.picture = value();
+    } else if (argument == "--method") {
+      const std::string text = value();
+      if (text == "lu") options.method = Method::lu;
+      else if (text == "cholesky") options.method = Method::cholesky;
+      else if (text == "qr") options.method = Method::qr;
+      else throw std::runtime_error("--method takes lu, cholesky or qr, not '" + text + "'");
     } else if (argument == "--repeat") {
       const std::string text = value();
       const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), options.repeat);
@@ -101,30 +114,74 @@ double median(std::vector<double> values) {
   return values.size() % 2 ? *middle : (*middle + *std::max_element(values.begin(), middle)) / 2;
 }
 
-// LU factors and solutions of all cells by zelm.
+// The systems of all cells as a method takes them.
+struct Systems {
+  Systems(Method m, const Grid& grid, const NormalEquations& equations) : method(m), count(int(equations.fitted.size())) {
+    if (method == Method::qr) observed = observations(grid, equations);
+    matrices = method == Method::qr ? observed.matrices.data() : equations.matrices.data();
+    right_sides = method == Method::qr ? observed.right_sides.data() : equations.right_sides.data();
+    rows = method == Method::qr ? kObservations : kTerms;
+  }
+  Systems(const Systems&) = delete;
+  Systems& operator=(const Systems&) = delete;
+
+  Method method;
+  int count, rows;
+  const float *matrices, *right_sides;
+
+ private:
+  Observations observed;
+};
+
+// Factors and solutions of all cells by zelm.
 class Zelm {
  public:
-  explicit Zelm(const NormalEquations& equations)
-      : equations_(equations),
-        count_(int(equations.fitted.size())),
-        factors_(equations.matrices.size()),
-        order_(equations.right_sides.size()),
-        solutions_(equations.right_sides.size()) {}
+  explicit Zelm(const Systems& systems)
+      : systems_(systems),
+        factors_(std::size_t(systems.count) * std::size_t(systems.rows * kTerms)),
+        order_(systems.method == Method::lu ? std::size_t(systems.count) * kTerms : 0),
+        solutions_(std::size_t(systems.count) * kTerms) {}
 
   void decompose() {
-    require_ok("zelmLUDecomp_ma_32f", zelmLUDecomp_ma_32f(equations_.matrices.data(), kMatrix, kRow, kElement, order_.data(),
-                                                          factors_.data(), kMatrix, kRow, kElement, kTerms, count_));
+    const float* const a = systems_.matrices;
+    float* const f = factors_.data();
+    const int matrix = systems_.rows * kRow, count = systems_.count;
+    switch (systems_.method) {
+      case Method::lu:
+        return require_ok("zelmLUDecomp_ma_32f", zelmLUDecomp_ma_32f(a, matrix, kRow, kElement, order_.data(), f, matrix, kRow,
+                                                                     kElement, kTerms, count));
+      case Method::cholesky:
+        return require_ok("zelmCholeskyDecomp_ma_32f",
+                          zelmCholeskyDecomp_ma_32f(a, matrix, kRow, kElement, f, matrix, kRow, kElement, kTerms, count));
+      case Method::qr:
+        return require_ok("zelmQRDecomp_ma_32f", zelmQRDecomp_ma_32f(a, matrix, kRow, kElement, buffer_, f, matrix, kRow,
+                                                                     kElement, kTerms, kObservations, count));
+    }
   }
 
   void solve() {
-    require_ok("zelmLUBackSubst_mava_32f",
-               zelmLUBackSubst_mava_32f(factors_.data(), kMatrix, kRow, kElement, order_.data(), equations_.right_sides.data(),
-                                        kRow, kElement, solutions_.data(), kRow, kElement, kTerms, count_));
+    const float *const f = factors_.data(), *const b = systems_.right_sides;
+    float* const x = solutions_.data();
+    const int matrix = systems_.rows * kRow, right_side = systems_.rows * kElement, count = systems_.count;
+    switch (systems_.method) {
+      case Method::lu:
+        return require_ok("zelmLUBackSubst_mava_32f",
+                          zelmLUBackSubst_mava_32f(f, matrix, kRow, kElement, order_.data(), b, right_side, kElement, x, kRow,
+                                                   kElement, kTerms, count));
+      case Method::cholesky:
+        return require_ok("zelmCholeskyBackSubst_mava_32f",
+                          zelmCholeskyBackSubst_mava_32f(f, matrix, kRow, kElement, b, right_side, kElement, x, kRow, kElement,
+                                                         kTerms, count));
+      case Method::qr:
+        return require_ok("zelmQRBackSubst_mava_32f",
+                          zelmQRBackSubst_mava_32f(f, matrix, kRow, kElement, buffer_, b, right_side, kElement, x, kRow,
+                                                   kElement, kTerms, kObservations, count));
+    }
   }
 
   const std::vector<float>& solutions() const { return solutions_; }
 
-  // The largest |A x - b| as a share of its bound; throws if one exceeds it. With L, U as computed, and u = 2^-24,
+  // Of LU: the largest |A x - b| as a share of its bound; throws if one exceeds it. With L, U as computed, and u = 2^-24,
   // |A x - b| <= g |L| |U| |x| with g = k u / (1 - k u) and k = 3 n + 1: Higham, Accuracy and Stability of Numerical
   // Algorithms (2002), theorems 8.5 and 9.3, and one rounding more for multipliers formed by a reciprocal. It uses the
   // factors themselves, so no assumption on the growth of elements enters. Double precision adds nothing that counts.
@@ -132,10 +189,10 @@ class Zelm {
     constexpr double kRoundings = (3 * kTerms + 1) * 0x1p-24, kBound = kRoundings / (1 - kRoundings);
     constexpr double kUnderflow = std::numeric_limits<float>::min();  // far above what subnormal results can lose
     double largest = 0;
-    for (std::size_t cell = 0; cell < std::size_t(count_); ++cell) {
-      const float* const matrix = &equations_.matrices[cell * kTerms * kTerms];
+    for (std::size_t cell = 0; cell < std::size_t(systems_.count); ++cell) {
+      const float* const matrix = systems_.matrices + cell * kTerms * kTerms;
       const float* const factors = &factors_[cell * kTerms * kTerms];
-      const float* const b = &equations_.right_sides[cell * kTerms];
+      const float* const b = systems_.right_sides + cell * kTerms;
       const float* const x = &solutions_[cell * kTerms];
       double upper[kTerms];  // |U| |x|
       for (int i = 0; i < kTerms; ++i) {
@@ -161,46 +218,63 @@ class Zelm {
   }
 
  private:
-  static constexpr int kElement = sizeof(float), kRow = kTerms * kElement, kMatrix = kTerms * kRow;  // strides
+  static constexpr int kElement = sizeof(float), kRow = kTerms * kElement;  // strides
 
   static void require_ok(const char* function, ZelStatus status) {
     if (status != zelStsOk) throw std::runtime_error(std::string(function) + " returned " + std::to_string(status));
   }
 
-  const NormalEquations& equations_;
-  const int count_;
+  const Systems& systems_;
   std::vector<float> factors_;
   std::vector<int> order_;  // of the rows, for every cell
   std::vector<float> solutions_;
+  float buffer_[kObservations];
 };
 
 // The same by Eigen, the cells divided evenly among `threads`.
 class Rival {
  public:
-  explicit Rival(const NormalEquations& equations)
-      : equations_(equations), factors_(equations.fitted.size()), solutions_(equations.right_sides.size()) {}
+  virtual ~Rival() = default;
+  virtual void decompose(int threads) = 0;
+  virtual void solve(int threads) = 0;
+};
 
-  void decompose(int threads) {
+template <template <class> class Solver, int rows>
+class EigenRival : public Rival {
+ public:
+  explicit EigenRival(const Systems& systems)
+      : systems_(systems), factors_(std::size_t(systems.count)), solutions_(factors_.size() * kTerms) {}
+
+  void decompose(int threads) override {
 #pragma omp parallel for num_threads(threads) schedule(static)
     for (std::size_t cell = 0; cell < factors_.size(); ++cell)
-      factors_[cell].compute(Eigen::Map<const Matrix>(&equations_.matrices[cell * kTerms * kTerms]));
+      factors_[cell].compute(Eigen::Map<const Stored>(systems_.matrices + cell * rows * kTerms));
   }
 
-  void solve(int threads) {
+  void solve(int threads) override {
 #pragma omp parallel for num_threads(threads) schedule(static)
     for (std::size_t cell = 0; cell < factors_.size(); ++cell)
-      Eigen::Map<Vector>{&solutions_[cell * kTerms]} =
-          factors_[cell].solve(Eigen::Map<const Vector>(&equations_.right_sides[cell * kTerms]));
+      Eigen::Map<Eigen::Matrix<float, kTerms, 1>>{&solutions_[cell * kTerms]} =
+          factors_[cell].solve(Eigen::Map<const Eigen::Matrix<float, rows, 1>>(systems_.right_sides + cell * rows));
   }
 
  private:
-  using Matrix = Eigen::Matrix<float, kTerms, kTerms>;  // by columns; the normal matrices are symmetric
-  using Vector = Eigen::Matrix<float, kTerms, 1>;
+  using Matrix = Eigen::Matrix<float, rows, kTerms>;
+  using Stored = Eigen::Matrix<float, rows, kTerms, rows == kTerms ? Eigen::ColMajor : Eigen::RowMajor>;  // or symmetric
 
-  const NormalEquations& equations_;
-  std::vector<Eigen::PartialPivLU<Matrix>> factors_;
+  const Systems& systems_;
+  std::vector<Solver<Matrix>> factors_;
   std::vector<float> solutions_;
 };
+
+template <class Matrix>
+using LowerLLT = Eigen::LLT<Matrix>;
+
+std::unique_ptr<Rival> rival_of(const Systems& systems) {
+  if (systems.method == Method::lu) return std::make_unique<EigenRival<Eigen::PartialPivLU, kTerms>>(systems);
+  if (systems.method == Method::cholesky) return std::make_unique<EigenRival<LowerLLT, kTerms>>(systems);
+  return std::make_unique<EigenRival<Eigen::HouseholderQR, kObservations>>(systems);
+}
 
 struct Times {
   int threads;
@@ -255,25 +329,40 @@ void run(const Options& options) {
   progress.show("");
   std::printf("%s: %d x %d cells of %.1f m x %.1f m, %td of them with data enough to fit\n",
               std::filesystem::path(options.grid).filename().c_str(), grid.columns, grid.rows, cell.east, cell.north, fitted);
-  std::printf("%zu systems of %d normal equations, set up in %.1f ms by one thread\n", grid.cells(), kTerms, set_up);
+  const Systems systems(options.method, grid, equations);
+  std::printf("%zu systems of %d equations; normal equations set up in %.1f ms by one thread\n", grid.cells(), systems.rows,
+              set_up);
   std::fflush(stdout);
 
   const int all = zelGetNumThreads();
-  Zelm zelm(equations);
-  Rival rival(equations);
+  Zelm zelm(systems);
+  const std::unique_ptr<Rival> rival = rival_of(systems);
   std::vector<Times> times;
   double residual = 0;
   for (const int threads : {1, all}) {
     if (!times.empty() && threads == 1) break;
-    times.push_back(time_with(threads, zelm, rival, options.repeat, progress));
-    residual = std::max(residual, zelm.check_residuals());
+    times.push_back(time_with(threads, zelm, *rival, options.repeat, progress));
+    if (options.method == Method::lu) residual = std::max(residual, zelm.check_residuals());
   }
   progress.show("");
   print_times(times, grid.cells());
   std::printf("Time of a call on all cells (median of %d) and millions of matrices per second.\n", options.repeat);
-  std::printf("Eigen %d.%d.%d: PartialPivLU<Matrix<float, %d, %d>>, compiled with %s.\n", EIGEN_WORLD_VERSION,
-              EIGEN_MAJOR_VERSION, EIGEN_MINOR_VERSION, kTerms, kTerms, TERRAIN_FLAGS);
-  std::printf("All residuals keep their bound; the largest is %.2f of it.\n", residual);
+  constexpr const char* kSolvers[] = {"PartialPivLU", "LLT", "HouseholderQR"};
+  std::printf("Eigen %d.%d.%d: %s<Matrix<float, %d, %d>>, compiled with %s.\n", EIGEN_WORLD_VERSION, EIGEN_MAJOR_VERSION,
+              EIGEN_MINOR_VERSION, kSolvers[int(options.method)], systems.rows, kTerms, TERRAIN_FLAGS);
+  if (options.method == Method::lu) {
+    std::printf("All residuals keep their bound; the largest is %.2f of it.\n", residual);
+  } else {
+    progress.show("Solving by LU");
+    const Systems normal(Method::lu, grid, equations);
+    Zelm lu(normal);
+    lu.decompose();
+    lu.solve();
+    const Distance d = largest_distance(equations, zelm.solutions(), lu.solutions());
+    progress.show("");
+    std::printf("The same surface as by LU: no coefficients are further apart than %.2g m, nor than %.2g of their bound.\n",
+                d.metres, d.share);
+  }
 
   progress.show("Drawing " + options.picture);
   const Picture picture = draw_maps(grid, surfaces(grid, equations, zelm.solutions()));

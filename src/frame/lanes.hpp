@@ -131,6 +131,12 @@ ZELM_INLINE void store_row(const Pack<typename Object::T> (&e)[N], const Object*
   }
 }
 
+/// True of views whose objects may be interleaved: not of those whose elements are known to lie side by side, nor of lists.
+template <class View>
+inline constexpr bool can_interleave = View::array && !View::Object::plain && requires(View v) {
+  v.stride0;
+};
+
 template <class Body>
 __attribute__((noinline)) void last_block(Body body, std::ptrdiff_t k, int n) {
   body(k, n);

@@ -63,6 +63,7 @@ struct Pack<float> {
   static ZELM_INLINE Pack load(const float* p) { return {_mm_loadu_ps(p)}; }
   static ZELM_INLINE Pack load_aligned(const float* p) { return {_mm_load_ps(p)}; }
   ZELM_INLINE void store(float* p) const { _mm_storeu_ps(p, raw); }
+  ZELM_INLINE float first() const { return _mm_cvtss_f32(raw); }
   /// Past the caches, to a multiple of 16 bytes.
   ZELM_INLINE void stream(float* p) const { _mm_stream_ps(p, raw); }
 
@@ -134,6 +135,7 @@ struct Pack<double> {
   static ZELM_INLINE Pack load(const double* p) { return {_mm_loadu_pd(p)}; }
   static ZELM_INLINE Pack load_aligned(const double* p) { return {_mm_load_pd(p)}; }
   ZELM_INLINE void store(double* p) const { _mm_storeu_pd(p, raw); }
+  ZELM_INLINE double first() const { return _mm_cvtsd_f64(raw); }
   ZELM_INLINE void stream(double* p) const { _mm_stream_pd(p, raw); }
 
   template <int n>

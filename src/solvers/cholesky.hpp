@@ -273,7 +273,7 @@ ZelStatus decompose_any(const S& s, const D& d, int n) {
 template <class Rules, int N, class A, class D>
 ZELM_INLINE ZelStatus decompose_small(A a, D d, int count) {
   if constexpr (!A::array) return decompose_each<Rules, N>(a, d, 0, 1) ? zelStsNotPositiveDefinite : zelStsOk;
-  else if constexpr (!A::Object::plain && !D::Object::plain)
+  else if constexpr (can_interleave<A>)
     if (a.interleaved() && d.interleaved()) return decompose_lanes<Rules, N, true>(a, d, count);
   return decompose_lanes<Rules, N, false>(a, d, count);
 }
@@ -354,10 +354,12 @@ ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int count) {
   if constexpr (!B::array) {
     solve_each<N>(a, b, d, 0, 1);
   } else if constexpr (!A::array) {
-    if (b.interleaved() || d.interleaved()) solve_vectors<N, true>(a, b, d, count);
-    else solve_vectors<N, false>(a, b, d, count);
+    if constexpr (can_interleave<B>) {
+      if (b.interleaved() || d.interleaved()) return solve_vectors<N, true>(a, b, d, count), zelStsOk;
+    }
+    solve_vectors<N, false>(a, b, d, count);
   } else {
-    if constexpr (!A::Object::plain) {
+    if constexpr (can_interleave<A>) {
       if (a.interleaved() && b.interleaved() && d.interleaved()) return solve_lanes<N, true>(a, b, d, count), zelStsOk;
     }
     solve_lanes<N, false>(a, b, d, count);

@@ -31,6 +31,7 @@ constexpr Limits kWeighted = {4501, 4501, 4501, 3751, 4501, 4501, 4501, 4501, 45
 constexpr Limits kProduct = {2501, 1441, 3601, 1441, 1441, 3601, 1441, 3601, 1441, 1441};
 constexpr Limits kGaxpy = {7001, 5001, 7001, 501, 4501, 5001, 5001, 6001, 5001, 7001};
 constexpr Limits kDot = {5001, 2621, 2401, 2401, 2401, 3501, 2001, 4201, 3301, 2001};
+constexpr Limits kQR = {2801, 2801, 1801, 1801, 1801, 2801, 2801, 1801, 1801, 1801};
 constexpr Limits everywhere(int limit) {
   Limits all{};
   all.fill(limit);
@@ -88,6 +89,9 @@ const struct Rule {
      "ma",
      [](auto c, auto n, auto) { return c * n * n; },
      {7501, 7501, 2001, 2001, 2001, 2001, 2001, 721, 2001, 2001}},
+    {"QRDecomp", "ma", kTwoArrays, kQR},
+    {"QRBackSubst", "mva", [](auto c, auto w, auto h) { return w * h + c * w + c * h; }, kQR},
+    {"QRBackSubst", "mava", [](auto c, auto w, auto h) { return c * w * h + c * w + c * h; }, kQR},
     {"CholeskyBackSubst", "mva", kOneFactor, {1201, 1201, 721, 721, 721, 721, 721, 721, 721, 721}},
     {"CholeskyBackSubst", "mava", kOwnFactors, {2051, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 2051}},
     {"AffineTransform3DH", "mva", [](auto c, auto, auto) { return 6 * c; }, {785, 785, 0, 0, 0, 0, 0, 0, 0, 0}},
@@ -149,8 +153,9 @@ TEST(Limits, EveryArrayFunctionAsksFromItsLimitOn) {
         EXPECT_EQ(asked(f.name, 4000, 4, 1, contiguous), 0) << f.name;
         continue;
       }
-      for (const auto& [w, height] : {std::pair{1, 1}, {2, 2}, {3, 1}, {4, 3}}) {
-        const int h = f.operands[0].matrix ? height : 1;
+      for (const auto& [long_side, short_side] : {std::pair{1, 1}, {2, 2}, {3, 1}, {4, 3}}) {
+        const bool tall = f.name.starts_with("QR");
+        const int w = tall ? short_side : long_side, h = tall ? long_side : f.operands[0].matrix ? short_side : 1;
         int c = 1;
         while (rule->cost(c + 1, w, h) < limit) ++c;
         exact += rule->cost(c, w, h) == limit - 1;

@@ -2,30 +2,16 @@
 // Stability of Numerical Algorithms, 2nd ed., theorems 10.3 and 10.4; Eigen's LLT stands beside them under the same bounds.
 #include <Eigen/Cholesky>
 #include <cmath>
-#include <limits>
 
-#include "support/harness.hpp"
+#include "support/accuracy.hpp"
 
 namespace zelm::test {
 namespace {
-
-using Exact = Eigen::Matrix<long double, Eigen::Dynamic, Eigen::Dynamic>;
-template <class T>
-using Matrix = Eigen::Matrix<T, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;
-
-/// k u / (1 - k u), the bound on k roundings in a row.
-template <class T>
-long double gamma(int k) {
-  const long double u = std::numeric_limits<T>::epsilon() / 2.0L;
-  return k * u / (1 - k * u);
-}
 
 /// Roundings that a reciprocal of L's diagonal stands for. Of the approximation's 1.5 * 2^-12 a Newton step leaves 3/2 of its
 /// square, less than 4 u, and adds five roundings; in double there are a root and a division.
 template <class T>
 constexpr int kReciprocal = sizeof(T) == 4 ? 9 : 2;
-
-enum class Kind { random, graded, nearly_singular };
 
 /// G G^T of a G with a dominant diagonal. nearly_singular: the last column of G almost vanishes, as far as no rounding can make the
 /// last pivot negative (theorem 10.7).
@@ -66,12 +52,6 @@ long double error_of_solution(const Matrix<T>& a, const Exact& L, const Exact& b
 }
 
 template <class T>
-ZelStatus call(const std::string& name, const Sizes& sizes, Data<T>& data) {
-  Scene scene(function(name), sizes, memories()[0]);
-  return scene.run(scene.roads({})[0], data);
-}
-
-template <class T>
 void check(const std::string& type, Kind kind, int n, Random& random) {
   struct Worst {
     long double factor = 0, solution = 0;
@@ -105,7 +85,7 @@ void check(const std::string& type, Kind kind, int n, Random& random) {
       eigens.solution = std::max(eigens.solution, error_of_solution<T>(as[k], M, vector(1), x.template cast<long double>()));
     }
   }
-  SCOPED_TRACE(type + " order " + std::to_string(n) + " kind " + std::to_string(int(kind)));
+  SCOPED_TRACE(trace(type, n, kind));
   EXPECT_LE(ours.factor, 1);
   EXPECT_LE(ours.solution, 1);
   EXPECT_LE(eigens.factor, 1) << "the bound does not hold";
@@ -115,7 +95,7 @@ void check(const std::string& type, Kind kind, int n, Random& random) {
 
 TEST(CholeskyAccuracy, BackwardErrors) {
   Random random(1);
-  for (const Kind kind : {Kind::random, Kind::graded, Kind::nearly_singular})
+  for (const Kind kind : kKinds)
     for (const int n : {1, 2, 3, 4, 5, 6, 7, 9, 17, 33}) {
       check<float>("32f", kind, n, random);
       check<double>("64f", kind, n, random);

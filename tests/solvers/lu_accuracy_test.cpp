@@ -3,27 +3,14 @@
 // them under the same bounds.
 #include <Eigen/LU>
 #include <cmath>
-#include <limits>
 
-#include "support/harness.hpp"
+#include "support/accuracy.hpp"
 
 namespace zelm::test {
 namespace {
 
-using Exact = Eigen::Matrix<long double, Eigen::Dynamic, Eigen::Dynamic>;
-template <class T>
-using Matrix = Eigen::Matrix<T, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;
 template <class T>
 using Vector = Eigen::Matrix<T, Eigen::Dynamic, 1>;
-
-/// k u / (1 - k u), the bound on k roundings in a row.
-template <class T>
-long double gamma(int k) {
-  const long double u = std::numeric_limits<T>::epsilon() / 2.0L;
-  return k * u / (1 - k * u);
-}
-
-enum class Kind { random, graded, nearly_singular };
 
 template <class T>
 Matrix<T> matrix(Kind kind, int n, Random& random) {
@@ -90,17 +77,6 @@ long double error_of_solution(const Matrix<T>& a, const Factors& f, const Vector
 }
 
 template <class T>
-std::vector<T> values(const Matrix<T>& a) {
-  return {a.data(), a.data() + a.size()};
-}
-
-template <class T>
-ZelStatus call(const std::string& name, const Sizes& sizes, Data<T>& data) {
-  Scene scene(function(name), sizes, memories()[0]);
-  return scene.run(scene.roads({})[0], data);
-}
-
-template <class T>
 void check(const std::string& type, Kind kind, int n, Random& random) {
   struct Worst {
     long double factors = 0, solution = 0;
@@ -133,7 +109,7 @@ void check(const std::string& type, Kind kind, int n, Random& random) {
       }
     }
   }
-  SCOPED_TRACE(type + " order " + std::to_string(n) + " kind " + std::to_string(int(kind)));
+  SCOPED_TRACE(trace(type, n, kind));
   EXPECT_LE(ours.factors, 1);
   EXPECT_LE(ours.solution, 1);
   EXPECT_LE(eigens.factors, 1) << "the bound does not hold";
@@ -143,7 +119,7 @@ void check(const std::string& type, Kind kind, int n, Random& random) {
 
 TEST(LUAccuracy, BackwardErrors) {
   Random random(1);
-  for (const Kind kind : {Kind::random, Kind::graded, Kind::nearly_singular})
+  for (const Kind kind : kKinds)
     for (const int n : {1, 2, 3, 4, 5, 6, 7, 8, 9, 17, 33}) {
       check<float>("32f", kind, n, random);
       check<double>("64f", kind, n, random);
