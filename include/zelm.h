@@ -593,40 +593,40 @@ ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2,
 
 /* ---- Det ---- */
 
-/** *pDst = det(A); square matrices of order widthHeight. */
+/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_m_32f(const float* pSrc, int srcStride1, int srcStride2, int widthHeight, void* pBuffer, float* pDst);
 
-/** *pDst = det(A); square matrices of order widthHeight. */
+/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_m_32f_P(const float* const* ppSrc, int srcByteShift, int widthHeight, void* pBuffer, float* pDst);
 
-/** *pDst = det(A); square matrices of order widthHeight. */
+/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_m_64f(const double* pSrc, int srcStride1, int srcStride2, int widthHeight, void* pBuffer,
     double* pDst);
 
-/** *pDst = det(A); square matrices of order widthHeight. */
+/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_m_64f_P(const double* const* ppSrc, int srcByteShift, int widthHeight, void* pBuffer, double* pDst);
 
-/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
     void* pBuffer, float* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int widthHeight, void* pBuffer, float* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
     void* pBuffer, float* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
     void* pBuffer, double* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int widthHeight, void* pBuffer, double* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order widthHeight. */
+/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
     void* pBuffer, double* pDst, int count);
 
@@ -745,43 +745,73 @@ const ZelLibVersion* zelmGetLibVersion(void);
 
 /* ---- Invert ---- */
 
-/** D = inverse of A; square matrices of order widthHeight. May return zelStsSingular. */
+/** D = inverse of A, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute
+    limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as
+    that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address.
+    May return zelStsSingular. */
 ZelStatus zelmInvert_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer, float* pDst,
     int dstStride1, int dstStride2, int widthHeight);
 
-/** D = inverse of A; square matrices of order widthHeight. May return zelStsSingular. */
+/** D = inverse of A, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute
+    limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as
+    that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address.
+    May return zelStsSingular. */
 ZelStatus zelmInvert_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer, float* const* ppDst,
     int dstByteShift, int widthHeight);
 
-/** D = inverse of A; square matrices of order widthHeight. May return zelStsSingular. */
+/** D = inverse of A, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute
+    limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as
+    that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address.
+    May return zelStsSingular. */
 ZelStatus zelmInvert_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer, double* pDst,
     int dstStride1, int dstStride2, int widthHeight);
 
-/** D = inverse of A; square matrices of order widthHeight. May return zelStsSingular. */
+/** D = inverse of A, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute
+    limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor counts as
+    that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address.
+    May return zelStsSingular. */
 ZelStatus zelmInvert_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer, double* const* ppDst,
     int dstByteShift, int widthHeight);
 
-/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
 ZelStatus zelmInvert_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
     float* pDst, int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
 ZelStatus zelmInvert_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     void* pBuffer, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
 ZelStatus zelmInvert_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
     float* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
-/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
 ZelStatus zelmInvert_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
     double* pDst, int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
 ZelStatus zelmInvert_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     void* pBuffer, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** D[k] = inverse of A[k]; square matrices of order widthHeight. May return zelStsSingular. */
+/** D[k] = inverse of A[k], which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an
+    absolute limit, about 2 n^3 times the smallest normal number. In orders 2 and 7 upward each vanishing cofactor
+    counts as that limit, not as 0; square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at
+    any address. May return zelStsSingular. */
 ZelStatus zelmInvert_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
     double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
