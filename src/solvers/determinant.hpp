@@ -65,7 +65,7 @@ __attribute__((noinline)) Pack<T> closed_form(const Pack<T> (&a)[N][N]) {
   return LastRows<N, N, Pack<T>>(a).minors[0];
 }
 
-template <int N, bool beside, class A>
+template <int N, Memory memory, class A>
 void in_lanes(A a, typename A::T* dst, int count) {
   using T = typename A::T;
   constexpr int L = Pack<T>::lanes;
@@ -76,7 +76,8 @@ void in_lanes(A a, typename A::T* dst, int count) {
   } else {
     for_blocks<L>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
       Lanes<T, N, N> m;
-      m.template load<beside>(a, k, valid);
+      if constexpr (std::is_same_v<decltype(valid), int>) m.template load<false>(a, k, valid);
+      else m.template load_block<memory>(a, k);
       const Pack<T> det = closed_form(m.e);
       if (valid == L) return det.store(dst + k);
       alignas(16) T lanes[L];
@@ -88,9 +89,7 @@ void in_lanes(A a, typename A::T* dst, int count) {
 
 template <int N, class A>
 ZELM_INLINE void in_element_type(const A& a, typename A::T* dst, int count) {
-  if constexpr (!A::Object::plain)
-    if (a.interleaved()) return in_lanes<N, true>(a, dst, count);
-  in_lanes<N, false>(a, dst, count);
+  by_memory<N>([&](auto memory) { in_lanes<N, memory()>(a, dst, count); }, a);
 }
 
 /// Extended determinants of four float matrices without the x87 unit. In double precision |det - exact| <= gamma(k) times the
