@@ -152,6 +152,26 @@ ZELM_INLINE void for_blocks(std::ptrdiff_t count, Body body) {
   if (k < count) last_block(body, k, int(count - k));
 }
 
+/// What a loop over arrays knows of them.
+enum class Memory {
+  rows,  // nothing: objects are taken row by row
+  runs,  // every object is a run of elements without a gap
+  lanes  // objects may be interleaved
+};
+
+/// Calls body with the Memory of arrays of C columns as a constant. Runs are of use where no row fills a register.
+template <int C, class Body, class First, class... Views>
+ZELM_INLINE auto by_memory(Body body, const First& first, const Views&... views) {
+  constexpr Bytes row = C * sizeof(typename First::T);
+  if constexpr (!First::Object::plain) {
+    if (first.interleaved() || (... || views.interleaved())) return body(std::integral_constant<Memory, Memory::lanes>());
+  } else if constexpr (row < 16) {
+    if (first.row_stride == row && (... && (views.row_stride == row)))
+      return body(std::integral_constant<Memory, Memory::runs>());
+  }
+  return body(std::integral_constant<Memory, Memory::rows>());
+}
+
 /// R x C elements of as many objects as a register has lanes.
 template <class T, int R, int C>
 struct Lanes {
@@ -191,6 +211,32 @@ struct Lanes {
     typename View::Object objects[L];
     view.objects(k, L, objects);
     ZELM_UNROLL for (int i = 0; i < R; ++i) store_row(e[i], objects, [&](int) { return i; });
+  }
+
+  /// A full block.
+  template <Memory memory, class View>
+  ZELM_INLINE void load_block(const View& view, std::ptrdiff_t k) {
+    if constexpr (memory == Memory::runs) {
+      typename View::Object objects[L];
+      Pack<T> run[R * C];
+      view.objects(k, L, objects);
+      load_row(run, objects, [](int) { return 0; });
+      ZELM_UNROLL for (int i = 0; i < R; ++i) { ZELM_UNROLL for (int j = 0; j < C; ++j) e[i][j] = run[i * C + j]; }
+    } else {
+      load<memory == Memory::lanes>(view, k, L);
+    }
+  }
+  template <Memory memory, class View>
+  ZELM_INLINE void store_block(const View& view, std::ptrdiff_t k) const {
+    if constexpr (memory == Memory::runs) {
+      typename View::Object objects[L];
+      Pack<T> run[R * C];
+      view.objects(k, L, objects);
+      ZELM_UNROLL for (int i = 0; i < R; ++i) { ZELM_UNROLL for (int j = 0; j < C; ++j) run[i * C + j] = e[i][j]; }
+      store_row(run, objects, [](int) { return 0; });
+    } else {
+      store<memory == Memory::lanes>(view, k, L);
+    }
   }
 
   /// One object in every lane.

@@ -65,7 +65,7 @@ __attribute__((noinline)) Pack<T> closed_form(const Pack<T> (&a)[N][N]) {
   return LastRows<N, N, Pack<T>>(a).minors[0];
 }
 
-template <int N, bool beside, class A>
+template <int N, Memory memory, class A>
 void in_lanes(A a, typename A::T* dst, int count) {
   using T = typename A::T;
   constexpr int L = Pack<T>::lanes;
@@ -76,7 +76,8 @@ void in_lanes(A a, typename A::T* dst, int count) {
   } else {
     for_blocks<L>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
       Lanes<T, N, N> m;
-      m.template load<beside>(a, k, valid);
+      if constexpr (std::is_same_v<decltype(valid), int>) m.template load<false>(a, k, valid);
+      else m.template load_block<memory>(a, k);
       const Pack<T> det = closed_form(m.e);
       if (valid == L) return det.store(dst + k);
       alignas(16) T lanes[L];
@@ -88,17 +89,56 @@ void in_lanes(A a, typename A::T* dst, int count) {
 
 template <int N, class A>
 ZELM_INLINE void in_element_type(const A& a, typename A::T* dst, int count) {
-  if constexpr (!A::Object::plain)
-    if (a.interleaved()) return in_lanes<N, true>(a, dst, count);
-  in_lanes<N, false>(a, dst, count);
+  by_memory<N>([&](auto memory) { in_lanes<N, memory()>(a, dst, count); }, a);
+}
+
+/// Extended determinants of four float matrices without the x87 unit. In double precision |det - exact| <= gamma(k) times the
+/// permanent of |A|, which is at most the product of the rows' sums; k <= 20 roundings, and a fraction of one for the extended value.
+/// Where the whole interval rounds to one float, that is the float to which the extended value rounds. Sets that lane's bit; a zero
+/// never does, since its sign is not known. Six floats neither overflow nor underflow in double precision.
+template <int N>
+__attribute__((noinline)) int certain(const Pack<float> (&a)[N][N], Pack<float>& det) {
+  using P = Pack<double>;
+  __m128 low[2], high[2];
+  for (int half = 0; half < 2; ++half) {
+    P e[N][N], size = P::splat(0x1p-47);
+    ZELM_UNROLL for (int i = 0; i < N; ++i) {
+      P sum = P::zero();
+      ZELM_UNROLL for (int j = 0; j < N; ++j) {
+        const float* const two = reinterpret_cast<const float*>(&a[i][j]) + 2 * half;
+        e[i][j].raw = _mm_cvtps_pd(Pack<float>::load_first<2>(two).raw);
+        sum = sum + abs(e[i][j]);
+      }
+      size = size * sum;
+    }
+    const P d = LastRows<N, N, P>(e).minors[0];
+    low[half] = _mm_cvtpd_ps((d - size).raw);
+    high[half] = _mm_cvtpd_ps((d + size).raw);
+  }
+  det.raw = _mm_movelh_ps(low[0], low[1]);
+  const __m128 same = _mm_cmpeq_ps(det.raw, _mm_movelh_ps(high[0], high[1]));
+  return _mm_movemask_ps(_mm_and_ps(same, _mm_cmpneq_ps(det.raw, _mm_setzero_ps())));
 }
 
 template <int N, class A>
-void in_extended(const A& a, typename A::T* dst, std::ptrdiff_t k, int count) {
-  for (; k < count; ++k) {
-    const auto object = a.object(k);
-    kExtended<typename A::T, N>(object.base, int(object.row_stride), dst + k);
+void in_extended(A a, typename A::T* dst, std::ptrdiff_t k, int count) {
+  using T = typename A::T;
+  const auto alone = [=](std::ptrdiff_t at) {
+    const auto object = a.object(at);
+    kExtended<T, N>(object.base, int(object.row_stride), dst + at);
+  };
+  if constexpr (A::array && N > 3 && std::is_same_v<T, float>) {
+    for (; k + 4 <= count; k += 4) {
+      Lanes<T, N, N> m;
+      Pack<T> det;
+      m.template load<false>(a, k, 4);
+      const int lanes = certain(m.e, det);
+      det.store(dst + k);
+      for (int l = 0; l < 4; ++l)
+        if (!(lanes >> l & 1)) alone(k + l);
+    }
   }
+  for (; k < count; ++k) alone(k);
 }
 
 template <class How, int N, class A>

@@ -101,9 +101,9 @@ struct ByCofactors {
     if constexpr (N <= 4) return invert_by_cofactors<How::method(N)>(m.e, limit);
     else return invert_apart<How::method(N)>(m.e, limit);
   }
-  template <bool beside, class View>
+  template <Memory memory, class View>
   ZELM_INLINE void store(const View& view, std::ptrdiff_t k) const {
-    m.template store<beside>(view, k, Pack<T>::lanes);
+    m.template store_block<memory>(view, k);
   }
   template <class Object>
   ZELM_INLINE void store_first(const Object& d, bool singular) const {
@@ -140,7 +140,7 @@ struct ByPivoting {
     return any;
   }
 
-  template <bool, class View>
+  template <Memory, class View>
   ZELM_INLINE void store(const View& view, std::ptrdiff_t k) const {
     constexpr int L = P::lanes;
     alignas(16) int rows[N][4];
@@ -247,16 +247,16 @@ __attribute__((noinline)) ZelStatus invert_in_order(const A& a, const D& d, std:
 }
 
 /// Blocks up to the first with a singular object; that one, and what fills no block, in order.
-template <int N, class How, bool beside, class A, class D>
+template <int N, class How, Memory memory, class A, class D>
 ZelStatus invert_blocks(A a, D d, int count) {
   using T = typename A::T;
   constexpr int L = Pack<T>::lanes;
   std::ptrdiff_t k = 0;
   for (; k + L <= count; k += L) {
     Inversion<T, N, How> f;
-    f.m.template load<beside>(a, k, L);
+    f.m.template load_block<memory>(a, k);
     if (lane_bits(f.run())) break;
-    f.template store<beside>(d, k);
+    f.template store<memory>(d, k);
   }
   return k < count ? invert_in_order<N, How>(a, d, k, count) : zelStsOk;
 }
@@ -276,9 +276,7 @@ ZELM_INLINE ZelStatus invert_small(const A& a, const D& d, int count) {
         return status || even == count ? status : invert_one<N, How>(a.object(even), d.object(even));
       }
     }
-    if constexpr (!A::Object::plain)
-      if (a.interleaved() || d.interleaved()) return invert_blocks<N, How, true>(a, d, count);
-    return invert_blocks<N, How, false>(a, d, count);
+    return by_memory<N>([&](auto memory) { return invert_blocks<N, How, memory()>(a, d, count); }, a, d);
   }
 }
 

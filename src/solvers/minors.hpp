@@ -52,8 +52,8 @@ ZELM_INLINE void for_constants(Body body) {
 }
 
 /// The sum of expansion s of a table of them.
-template <const auto& table, int s, class V>
-ZELM_INLINE V sum_of(const V* first, const V* second) {
+template <const auto& table, int s, class First, class V>
+ZELM_INLINE V sum_of(const First& first, const V* second) {
   constexpr int n = int(table[s].size());
   V sum = first[table[s][0].i] * second[table[s][0].j];
   for_constants<n - 1>([&](auto t) ZELM_INLINE_LAMBDA {

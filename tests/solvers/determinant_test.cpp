@@ -206,6 +206,30 @@ TEST(DetKnownAnswers, OneRoundingInExtendedPrecision) {
   EXPECT_EQ(determinant_of(a, 6), 0x1p-14f + 0x1p-30f);
 }
 
+/// Halfway between two floats, and 2^-62 off, which no double shows: beside easy ones, at every place of an array.
+TEST(DetKnownAnswers, HalfwayCasesOfExtendedPrecision) {
+  const struct {
+    float product, det;
+  } cases[] = {{0x1p-31f, 1 + 0x1p-11f}, {0, 1 + 0x1p-11f}, {-0x1p-31f, 1 + 0x1p-11f + 0x1p-23f}};
+  for (const int n : {4, 5, 6})
+    for (const auto& c : cases)
+      for (int place = 0; place < 9; ++place) {
+        std::vector<float> a(n * n * 9), want(9, 1);
+        for (int e = 0; e < n * n * 9; ++e) a[e] = e % (n * n) % (n + 1) == 0;
+        float* const hard = &a[place * n * n];
+        hard[0] = hard[n + 1] = 1 + 0x1p-12f;
+        hard[1] = 0x1p-31f;
+        hard[n] = c.product;
+        want[place] = c.det;
+        const float* list[9];
+        for (int k = 0; k < 9; ++k) list[k] = &a[k * n * n];
+        std::vector<float> det(9);
+        float buffer[42];
+        EXPECT_EQ(zelmDet_ma_32f_L(list, 0, n * 4, 4, n, buffer, det.data(), 9), zelStsOk);
+        EXPECT_EQ(det, want) << n << " " << place;
+      }
+}
+
 // Errors
 
 /// k roundings on the way to each product: |error| <= k u / (1 - k u) times the permanent of |A|, which is at most the product of the
