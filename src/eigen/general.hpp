@@ -4,6 +4,8 @@
 // A matrix is read as it lies and then taken for its transpose: the right vectors x satisfy A^T x = lambda x and the left ones
 // u^H A^T = lambda u^H. The eigenvalues are the same.
 #pragma once
+#include <algorithm>
+
 #include "eigen/general_cores.hpp"
 #include "frame/views.hpp"
 
@@ -22,10 +24,47 @@ ZELM_INLINE void copy_out(const T* rows, const Object& dst, int n) {
     for (int j = 0; j < n; ++j) store(dst.at(i, j), load(rows + std::ptrdiff_t(j) * n + i));
 }
 
+/// Whole blocks, as many as there are, until one holds an object that fails: what is left is done one by one.
+///   done(k, l, block) takes object k out of lane l; false ends the call
+template <int order, bool vectors, class T, class A, class Done>
+ZELM_INLINE int solve_blocks(const A& a, int n, int count, Done done) {
+  constexpr int L = kTogether<T>;
+  if constexpr (order > 0) n = order;
+  Block<T, order, vectors> block;
+  int k = 0;
+  while (count - k > 1) {
+    const int valid = std::min(count - k, L);
+    typename A::Object objects[L];
+    a.objects(k, valid, objects);
+    for (int i = 0; i < n; ++i)
+      for (int j = 0; j < n; ++j) block.h[i * n + j] = Many<T, L>::gather([&](int l) { return objects[l].at(i, j); });
+    if (!solve_together(block, n)) break;
+    for (int l = 0; l < valid; ++l, ++k)
+      if (!done(k, l, block)) return count;
+  }
+  return k;
+}
+
+template <bool vectors, class T, class A, class Done>
+ZELM_INLINE int solve_some(const A& a, int n, int count, Done done) {
+  if constexpr (A::array) {
+    if (n == 3) return solve_blocks<3, vectors, T>(a, n, count, done);
+    if (n > 1 && n <= kLargestTogether) return solve_blocks<0, vectors, T>(a, n, count, done);
+  }
+  return 0;
+}
+
 template <class A, class T>
 ZelStatus values(A a, T* re, T* im, int n, int count, void* buffer) {
   T* const scratch = static_cast<T*>(buffer);
-  for (std::ptrdiff_t k = 0; k < count; ++k) {
+  std::ptrdiff_t k = solve_some<false, T>(a, n, count, [=](std::ptrdiff_t at, int l, const auto& block) {
+    for (int i = 0; i < n; ++i) {
+      store(re + at * n + i, load_lane(block.re + i, l));
+      store(im + at * n + i, load_lane(block.im + i, l));
+    }
+    return true;
+  });
+  for (; k < count; ++k) {
     copy_in(a.object(k), scratch, n);
     if (const ZelStatus status = values_of_one(scratch, re + k * n, im + k * n, n)) return status;
   }
@@ -36,15 +75,31 @@ ZelStatus values(A a, T* re, T* im, int n, int count, void* buffer) {
 template <int sides, class T, class A, class... D>
 ZELM_INLINE ZelStatus vectors(const A& a, T* re, T* im, int n, int count, void* buffer, const D&... dst) {
   T *const scratch = static_cast<T*>(buffer), *const found = scratch + std::ptrdiff_t(n) * n;
-  for (std::ptrdiff_t k = 0; k < count; ++k) {
-    copy_in(a.object(k), scratch, n);
-    const Outcome outcome = vectors_of_one(scratch, re + k * n, im + k * n, n, sides);
-    // An object without vectors ends the call, even where its status is zelStsOk.
-    if (!outcome.complete) return outcome.status;
+  ZelStatus status = zelStsOk;
+  // An object without vectors ends the call, even where its status is zelStsOk.
+  const auto finish = [&](std::ptrdiff_t k, const Outcome& outcome) {
+    status = outcome.status;
+    if (!outcome.complete) return false;
     const T* rows = found;
     ((copy_out(rows, dst.object(k), n), rows += std::ptrdiff_t(n) * n), ...);
+    return true;
+  };
+  std::ptrdiff_t k = solve_some<true, T>(a, n, count, [&](std::ptrdiff_t at, int l, const auto& block) {
+    for (int e = 0; e < n * n; ++e) {
+      store(scratch + e, load_lane(block.h + e, l));
+      store(found + e, load_lane(block.q + e, l));
+    }
+    for (int i = 0; i < n; ++i) {
+      store(re + at * n + i, load_lane(block.re + i, l));
+      store(im + at * n + i, load_lane(block.im + i, l));
+    }
+    return finish(at, vectors_of_form(scratch, re + at * n, im + at * n, n, sides));
+  });
+  for (; k < count; ++k) {
+    copy_in(a.object(k), scratch, n);
+    if (!finish(k, vectors_of_one(scratch, re + k * n, im + k * n, n, sides))) break;
   }
-  return zelStsOk;
+  return status;
 }
 
 template <class A, class D, class T>

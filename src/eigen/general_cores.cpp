@@ -5,47 +5,63 @@
 namespace zelm::eigen::general {
 namespace {
 
-template <class T>
-ZELM_INLINE ZelStatus values_here(T* h, T* scratch, T* re, T* im, int n) {
-  const Columns<T> source = {h, n};
-  reduce<false>(source, source, n, scratch);
-  return Iteration<false, T>{source, source, n, re, im}.run();
-}
-
-/// q: what becomes of the second matrix of the buffer, `other` of the third.
-template <class T>
-ZELM_INLINE Outcome vectors_here(T* h_at, T* q_at, T* other, T* scratch, T* re, T* im, int n, int sides) {
-  const Columns<T> h = {h_at, n}, q = {q_at, n};
-  for (int j = 0; j < n; ++j)
-    for (int i = 0; i < n; ++i) q.put(i, j, T(i == j));
-  reduce<true>(h, q, n, scratch);
-  if (const ZelStatus status = Iteration<true, T>{h, q, n, re, im}.run()) return {status, false};
-  const bool both_sides = sides == right + left;
-  if (both_sides) std::memcpy(other, q_at, sizeof(T) * std::size_t(n) * std::size_t(n));
-  Outcome outcome = {zelStsOk, true};
-  if (sides & right) outcome = substitute_all<right>(h, q, re, im, scratch);
-  if (outcome.complete && (sides & left))
-    outcome = substitute_all<left>(h, both_sides ? Columns<T>{other, n} : q, re, im, scratch);
-  return outcome;
+template <bool vectors, int order, class S>
+ZELM_INLINE ZelStatus schur(Columns<S> h, Columns<S> q, S* scratch, S* re, S* im, int n) {
+  using T = ElementOf<S>;
+  if constexpr (vectors)
+    for (int j = 0; j < n; ++j)
+      for (int i = 0; i < n; ++i) q.put(i, j, S(T(i == j)));
+  reduce<vectors>(h, q, n, scratch);
+  return Iteration<vectors, S, order>{h, q, n, re, im}.run();
 }
 
 }  // namespace
 
 template <class T>
 ZelStatus values_of_one(T* buffer, T* re, T* im, int n) {
-  return values_here(buffer, buffer + std::ptrdiff_t(n) * n, re, im, n);
+  const Columns<T> h = {buffer, n};
+  return schur<false, 1>(h, h, h.at(0, n), re, im, n);
 }
 
 template <class T>
 Outcome vectors_of_one(T* buffer, T* re, T* im, int n, int sides) {
-  T* const q = buffer + std::ptrdiff_t(n) * n;
-  T* const other = q + std::ptrdiff_t(n) * n;
-  return vectors_here(buffer, q, other, other + std::ptrdiff_t(n) * n, re, im, n, sides);
+  const Columns<T> h = {buffer, n}, q = {h.at(0, n), n};
+  if (const ZelStatus status = schur<true, 1>(h, q, q.at(0, 2 * n), re, im, n)) return {status, false};
+  return vectors_of_form(buffer, re, im, n, sides);
 }
 
-template ZelStatus values_of_one(float*, float*, float*, int);
-template ZelStatus values_of_one(double*, double*, double*, int);
-template Outcome vectors_of_one(float*, float*, float*, int, int);
-template Outcome vectors_of_one(double*, double*, double*, int, int);
+template <class T>
+Outcome vectors_of_form(T* buffer, const T* re, const T* im, int n, int sides) {
+  const Columns<T> h = {buffer, n}, q = {h.at(0, n), n}, other = {q.at(0, n), n};
+  T* const scratch = other.at(0, n);
+  const bool both_sides = sides == right + left;
+  if (both_sides) std::memcpy(other.first, q.first, sizeof(T) * std::size_t(n) * std::size_t(n));
+  Outcome outcome = {zelStsOk, true};
+  if (sides & right) outcome = substitute_all<right>(h, q, re, im, scratch);
+  if (outcome.complete && (sides & left)) outcome = substitute_all<left>(h, both_sides ? other : q, re, im, scratch);
+  return outcome;
+}
+
+template <class T, int order, bool vectors>
+bool solve_together(Block<T, order, vectors>& block, int n) {
+  using B = Block<T, order, vectors>;
+  if constexpr (order > 0) n = order;
+  typename B::S scratch[B::largest];
+  const Columns<typename B::S> h = {block.h, n}, q = {block.q, n};
+  return schur<vectors, B::largest>(h, q, scratch, block.re, block.im, n) == zelStsOk;
+}
+
+#define ZELM_GENERAL_ORDER(T, order)                          \
+  template bool solve_together(Block<T, order, false>&, int); \
+  template bool solve_together(Block<T, order, true>&, int);
+#define ZELM_GENERAL(T)                                               \
+  template ZelStatus values_of_one(T*, T*, T*, int);                  \
+  template Outcome vectors_of_one(T*, T*, T*, int, int);              \
+  template Outcome vectors_of_form(T*, const T*, const T*, int, int); \
+  ZELM_GENERAL_ORDER(T, 0)                                            \
+  ZELM_GENERAL_ORDER(T, 3)
+
+ZELM_GENERAL(float)
+ZELM_GENERAL(double)
 
 }  // namespace zelm::eigen::general

@@ -1,6 +1,7 @@
 // general_cores.hpp: eigenvalues and eigenvectors of one general real matrix that lies in a buffer. Compiled once, whatever
 // memory the matrices come from.
 #pragma once
+#include "simd/many.hpp"
 #include "zelm_types.h"
 
 namespace zelm::eigen::general {
@@ -21,5 +22,27 @@ struct Outcome {
 /// row j of the second matrix is eigenvector j; where both sides are wanted, of the right side, and the third has the left.
 template <class T>
 Outcome vectors_of_one(T* buffer, T* re, T* im, int n, int sides);
+
+/// The second half of vectors_of_one: from the Schur form in the first matrix, its vectors in the second, and its eigenvalues.
+template <class T>
+Outcome vectors_of_form(T* buffer, const T* re, const T* im, int n, int sides);
+
+/// Matrices that are computed together, one in each lane.
+template <class T>
+inline constexpr int kTogether = sizeof(T) == 4 ? 8 : 4;
+inline constexpr int kLargestTogether = 16;  // order
+
+template <class T, int order, bool vectors>
+struct Block {
+  static constexpr int largest = order ? order : kLargestTogether;
+  using S = Many<T, kTogether<T>>;
+  S h[largest * largest];                // the source row by row without a gap; then its Schur form, column by column
+  S q[vectors ? largest * largest : 1];  // column by column
+  S re[largest], im[largest];
+};
+
+/// Eigenvalues, or the whole Schur form. False if one of the matrices takes too many sweeps: then they must be done one by one.
+template <class T, int order, bool vectors>
+bool solve_together(Block<T, order, vectors>& block, int n);
 
 }  // namespace zelm::eigen::general

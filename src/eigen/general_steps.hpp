@@ -22,77 +22,83 @@ struct Limits {
 };
 
 /// A matrix column by column without a gap, at any address.
-template <class T>
+template <class S>
 struct Columns {
-  T* first;
+  S* first;
   int n;
-  ZELM_INLINE T get(int i, int j) const { return load(first + std::ptrdiff_t(j) * n + i); }
-  ZELM_INLINE void put(int i, int j, T x) const { store(first + std::ptrdiff_t(j) * n + i, x); }
+  ZELM_INLINE S* at(int i, int j) const { return first + std::ptrdiff_t(j) * n + i; }
+  ZELM_INLINE S get(int i, int j) const { return load(at(i, j)); }
+  ZELM_INLINE void put(int i, int j, const S& x) const { store(at(i, j), x); }
 };
 
 /// sqrt(a^2 + b^2) without a large square; never tiny.
-template <class T>
-ZELM_INLINE T length(T a, T b) {
-  const T w = std::max(std::fabs(a), std::fabs(b)), z = std::min(std::fabs(a), std::fabs(b));
-  const T norm = z < Limits<T>::safe ? w : w * root(z * z / (w * w) + 1);
-  return norm < Limits<T>::safe ? Limits<T>::safe2 : norm;
+template <class S>
+ZELM_INLINE S length(const S& a, const S& b) {
+  using T = ElementOf<S>;
+  const S safe = Limits<T>::safe, w = larger(magnitude(a), magnitude(b)), z = smaller(magnitude(a), magnitude(b));
+  const S norm = select(exceeds(safe, z), w, w * root(z * z / (w * w) + S(T(1))));
+  return select(exceeds(safe, norm), S(Limits<T>::safe2), norm);
 }
 
-/// I - tau v v^T with v = (1, x / (alpha - beta)) turns (alpha, x) into (beta, 0), xnorm being the length of x.
-template <class T>
+/// I - tau v v^T with v = (1, scale x) turns (alpha, x) into (beta, 0), xnorm being the length of x.
+template <class S>
 struct Reflector {
-  T beta, tau, scale;
-  ZELM_INLINE Reflector(T alpha, T xnorm) {
-    const T norm = length(alpha, xnorm);
-    beta = 0 - (alpha < 0 ? -norm : norm);
+  S beta, tau, scale;
+  ZELM_INLINE Reflector(const S& alpha, const S& xnorm) {
+    using T = ElementOf<S>;
+    const S norm = length(alpha, xnorm), zero = T(0);
+    beta = select(exceeds(zero, alpha), norm, zero - norm);
     tau = (beta - alpha) / beta;
-    scale = 1 / (0 - (beta - alpha));
+    scale = S(T(1)) / (zero - (beta - alpha));
   }
 };
 
-/// Columns from + 1, ..., n - 1 of m, times I - tau v v^T from the right. v stands in v(from + 2), ..., behind a leading 1; w is
-/// scratch.
-template <class T, class V>
-ZELM_INLINE void reflect_columns(Columns<T> m, int from, int n, T tau, V v, T* w) {
+/// Columns from + 1, ..., n - 1 of m, times I - tau v v^T from the right, but for the lanes that are skipped. v stands in
+/// v(from + 2), ..., behind a leading 1; w is scratch.
+template <class S, class V>
+ZELM_INLINE void reflect_columns(Columns<S> m, int from, int n, const S& tau, V v, S* w, const MaskOf<S>& skipped) {
   for (int i = 0; i < n; ++i) store(w + i, m.get(i, from + 1));
   for (int j = from + 2; j < n; ++j) {
-    const T vj = v(j);
+    const S vj = v(j);
     for (int i = 0; i < n; ++i) store(w + i, load(w + i) + vj * m.get(i, j));
   }
   for (int i = 0; i < n; ++i) {
     store(w + i, tau * load(w + i));
-    m.put(i, from + 1, m.get(i, from + 1) - load(w + i));
+    m.put(i, from + 1, m.get(i, from + 1) - unless(skipped, load(w + i)));
   }
   for (int j = from + 2; j < n; ++j) {
-    const T vj = v(j);
-    for (int i = 0; i < n; ++i) m.put(i, j, m.get(i, j) - load(w + i) * vj);
+    const S vj = v(j);
+    for (int i = 0; i < n; ++i) m.put(i, j, m.get(i, j) - unless(skipped, load(w + i) * vj));
   }
 }
 
 /// To Hessenberg form; q is multiplied by the reflections.
-template <bool vectors, class T>
-ZELM_INLINE void reduce(Columns<T> h, Columns<T> q, int n, T* w) {
+template <bool vectors, class S>
+ZELM_INLINE void reduce(Columns<S> h, Columns<S> q, int n, S* w) {
+  using T = ElementOf<S>;
+  const S zero = T(0);
   for (int k = 0; k < n - 2; ++k) {
-    T squares = 0;
+    S squares = zero;
     for (int i = k + 2; i < n; ++i) squares = squares + h.get(i, k) * h.get(i, k);
-    const T xnorm = root(squares);
-    if (xnorm < Limits<T>::safe) continue;
-    const Reflector<T> r(h.get(k + 1, k), xnorm);
+    const S xnorm = root(squares), alpha = h.get(k + 1, k);
+    const MaskOf<S> skipped = exceeds(S(Limits<T>::safe), xnorm);
+    if (all(skipped)) continue;
+    const Reflector<S> r(alpha, xnorm);
     for (int i = k + 2; i < n; ++i) h.put(i, k, h.get(i, k) * r.scale);
-    h.put(k + 1, k, r.beta);
-    const auto v = [&](int i) { return h.get(i, k); };
-    reflect_columns(h, k, n, r.tau, v, w);
+    h.put(k + 1, k, select(skipped, alpha, r.beta));
+    const auto v = [&](int i) ZELM_INLINE_LAMBDA { return h.get(i, k); };
+    reflect_columns(h, k, n, r.tau, v, w, skipped);
     for (int j = k + 1; j < n; ++j) {
-      T s = h.get(k + 1, j);
+      S s = h.get(k + 1, j);
       for (int i = k + 2; i < n; ++i) s = s + v(i) * h.get(i, j);
       s = r.tau * s;
-      h.put(k + 1, j, h.get(k + 1, j) - s);
-      for (int i = k + 2; i < n; ++i) h.put(i, j, h.get(i, j) - s * v(i));
+      h.put(k + 1, j, h.get(k + 1, j) - unless(skipped, s));
+      for (int i = k + 2; i < n; ++i) h.put(i, j, h.get(i, j) - unless(skipped, s * v(i)));
     }
-    if constexpr (vectors) reflect_columns(q, k, n, r.tau, v, w);
+    if constexpr (vectors) reflect_columns(q, k, n, r.tau, v, w, skipped);
   }
   for (int k = 0; k < n - 2; ++k)
-    for (int i = k + 2; i < n; ++i) h.put(i, k, 0);
+    for (int i = k + 2; i < n; ++i) h.put(i, k, zero);
 }
 
 /// A 2 x 2 block, its eigenvalues a + i wi and d - i wi, and the rotation that turned it.
@@ -170,173 +176,207 @@ struct Pair {
   }
 };
 
-/// x, y = cs x + sn y, cs y - sn x for elements 0, ..., n - 1 of two columns or rows.
-template <class Get, class T>
-ZELM_INLINE void rotate(int n, T cs, T sn, Get at) {
-  for (int i = 0; i < n; ++i) {
-    const auto [to_x, to_y] = at(i);
-    const T x = load(to_x), y = load(to_y);
-    store(to_x, cs * x + sn * y);
-    store(to_y, cs * y - sn * x);
-  }
+/// x, y = cs x + sn y, cs y - sn x.
+template <class S>
+ZELM_INLINE void rotate(S* to_x, S* to_y, const S& cs, const S& sn, const MaskOf<S>& where) {
+  const S x = load(to_x), y = load(to_y);
+  store(to_x, select(where, cs * x + sn * y, x));
+  store(to_y, select(where, cs * y - sn * x, y));
 }
 
-/// The Schur form of a Hessenberg matrix, or, without `vectors`, no more of it than its eigenvalues take.
-template <bool vectors, class T>
+/// Where something begins, in each lane.
+template <class S, int order>
+struct Starts {
+  S begin[order];
+  ZELM_INLINE void note(int i, const S& here) { begin[i] = here; }
+  ZELM_INLINE S at(int i) const { return begin[i]; }
+};
+template <Number S, int order>
+struct Starts<S, order> {
+  int begin;
+  ZELM_INLINE void note(int i, bool here) {
+    if (here) begin = i;
+  }
+  ZELM_INLINE bool at(int i) const { return i == begin; }
+};
+
+/// The Schur form of a Hessenberg matrix, or, without `vectors`, no more of it than its eigenvalues take. S: a number, or Many,
+/// whose lanes share the rows that are being worked on and wait for each other where one has less to do.
+template <bool vectors, class S, int order>
 struct Iteration {
-  Columns<T> h, q;
+  using T = ElementOf<S>;
+  using M = MaskOf<S>;
+  Columns<S> h, q;
   int n;
-  T *re, *im;
+  S *re, *im;
 
   ZELM_INLINE ZelStatus run() {
-    // Deflation makes the block smaller from its end: what one block takes of the budget the next ones do not have.
+    // Deflation makes the block smaller from its end: what one block takes of the budget the next ones do not have. Of many
+    // matrices the slowest counts, so that they may fail together where none would alone.
     int budget = 30 * n;
-    for (int i = n - 1; i >= 0;) {
-      int l = 0, its = 0;
-      for (; its < budget; ++its) {
-        int k = i;
-        while (k > l && !(Limits<T>::epsilon >= std::fabs(h.get(k, k - 1)))) --k;
-        l = k;
-        if (l > 0) h.put(l, l - 1, 0);
-        if (l >= i - 1) break;
-        sweep(l, i, its);
+    M taken = everywhere<S>(false);  // by the pair above
+    for (int i = n - 1; i >= 0; --i) {
+      M live = but_not(everywhere<S>(true), taken), single = everywhere<S>(false), pair = single;
+      for (int its = 0; any(live); ++its, --budget) {
+        if (its > 0 && budget == 0) return zelStsNoConvergence;
+        Starts<S, order> low;
+        M going = live;
+        int first = i;
+        for (; first > 0; --first) {
+          const S below = h.get(first, first - 1);
+          const M hit = both(going, reaches(S(Limits<T>::epsilon), magnitude(below)));
+          low.note(first, hit);
+          if (!any(hit)) continue;
+          h.put(first, first - 1, select(hit, S(T(0)), below));
+          if (first == i) single = either(single, hit);
+          if (first == i - 1) pair = either(pair, hit);
+          going = but_not(going, hit);
+          if (!any(going)) break;
+        }
+        if (first == 0) {
+          low.note(0, going);
+          if (i == 0) single = either(single, going);
+          if (i == 1) pair = either(pair, going);
+        }
+        live = but_not(live, either(single, pair));
+        if (!any(live)) break;
+        sweep(first, i, its, live, low);
       }
-      if (l < i - 1) return zelStsNoConvergence;
-      if (l == i) {
-        store(re + i, h.get(i, i));
-        store(im + i, T(0));
-      } else {
-        close_pair(i);
+      if (any(single)) {
+        store(re + i, select(single, h.get(i, i), load(re + i)));
+        store(im + i, select(single, S(T(0)), load(im + i)));
       }
-      i = l - 1;
-      budget -= its;
+      if (any(pair)) close_pair(i, pair);
+      taken = pair;
     }
     return zelStsOk;
   }
 
  private:
-  ZELM_INLINE void close_pair(int i) {
-    Pair<T> pair = {h.get(i - 1, i - 1), h.get(i - 1, i), h.get(i, i - 1), h.get(i, i)};
-    pair.standardise();
-    h.put(i - 1, i - 1, pair.a);
-    h.put(i - 1, i, pair.b);
-    h.put(i, i - 1, pair.c);
-    h.put(i, i, pair.d);
-    store(re + i - 1, pair.a);
-    store(im + i - 1, pair.wi);
-    store(re + i, pair.d);
-    store(im + i, 0 - pair.wi);
+  ZELM_INLINE void close_pair(int i, const M& where) {
+    S cs = T(1), sn = T(0);
+    for (int l = 0; l < NumberOf<S>::lanes; ++l) {
+      if (!(lanes_set(where) >> l & 1)) continue;
+      S *const a = h.at(i - 1, i - 1), *const b = h.at(i - 1, i), *const c = h.at(i, i - 1), *const d = h.at(i, i);
+      Pair<T> p = {load_lane(a, l), load_lane(b, l), load_lane(c, l), load_lane(d, l)};
+      p.standardise();
+      store_lane(a, l, p.a);
+      store_lane(b, l, p.b);
+      store_lane(c, l, p.c);
+      store_lane(d, l, p.d);
+      store_lane(re + i - 1, l, p.a);
+      store_lane(im + i - 1, l, p.wi);
+      store_lane(re + i, l, p.d);
+      store_lane(im + i, l, 0 - p.wi);
+      store_lane(&cs, l, p.cs);
+      store_lane(&sn, l, p.sn);
+    }
     if constexpr (vectors) {
-      struct Two {
-        T *x, *y;
-      };
-      const auto columns = [&](Columns<T> m) {
-        return [=](int r) { return Two{m.first + (i - 1) * m.n + r, m.first + i * m.n + r}; };
-      };
-      rotate(n - 1 - i, pair.cs, pair.sn, [&](int j) {
-        T* const x = h.first + (i + 1 + j) * n + i - 1;
-        return Two{x, x + 1};
-      });
-      rotate(i - 1, pair.cs, pair.sn, columns(h));
-      rotate(n, pair.cs, pair.sn, columns(q));
+      for (int j = i + 1; j < n; ++j) rotate(h.at(i - 1, j), h.at(i, j), cs, sn, where);
+      for (int r = 0; r < i - 1; ++r) rotate(h.at(r, i - 1), h.at(r, i), cs, sn, where);
+      for (int r = 0; r < n; ++r) rotate(q.at(r, i - 1), q.at(r, i), cs, sn, where);
     }
   }
 
   struct Shifts {
-    T h44, h33, h43h34;
+    S h44, h33, h43h34;
   };
 
   ZELM_INLINE Shifts shifts(int i, int its) const {
     if (its == 10 || its == 20) {
-      const T s = std::fabs(h.get(i, i - 1)) + std::fabs(h.get(i - 1, i - 2)), h44 = T(0.75) * s + h.get(i, i);
-      return {h44, h44, T(-0.4375) * s * s};
+      const S s = magnitude(h.get(i, i - 1)) + magnitude(h.get(i - 1, i - 2)), h44 = S(T(0.75)) * s + h.get(i, i);
+      return {h44, h44, S(T(-0.4375)) * s * s};
     }
-    const T h44 = h.get(i, i), h33 = h.get(i - 1, i - 1), h43h34 = h.get(i, i - 1) * h.get(i - 1, i);
-    const T half = (h33 - h44) * T(0.5), disc = half * half + h43h34;
-    if (!(disc > 0)) return {h44, h33, h43h34};
+    const S zero = T(0), h44 = h.get(i, i), h33 = h.get(i - 1, i - 1), h43h34 = h.get(i, i - 1) * h.get(i - 1, i);
+    const S half = (h33 - h44) * S(T(0.5)), disc = half * half + h43h34, distance = root(disc);
     // Two real eigenvalues: the one closer to h44, twice.
-    const T distance = root(disc), ave = (h44 + h33) * T(0.5), t = ave + (ave < 0 ? -distance : distance);
-    const T shift = std::fabs(h33) - std::fabs(h44) > 0 ? (h44 * h33 - h43h34) / t : t;
-    return {shift, shift, 0};
+    const M real = exceeds(disc, zero);
+    const S ave = (h44 + h33) * S(T(0.5)), t = ave + select(exceeds(zero, ave), zero - distance, distance);
+    const S shift = select(exceeds(magnitude(h33) - magnitude(h44), zero), (h44 * h33 - h43h34) / t, t);
+    return {select(real, shift, h44), select(real, shift, h33), select(real, zero, h43h34)};
   }
 
-  /// One double-shift sweep over rows l, ..., i.
-  ZELM_INLINE void sweep(int l, int i, int its) {
+  /// One double-shift sweep over rows l, ..., i, l being where `low` says, nowhere below `first`.
+  ZELM_INLINE void sweep(int first, int i, int its, const M& live, const Starts<S, order>& low) {
+    using Wide = typename Wider<S>::Type;
+    const auto size = [](const S& x) ZELM_INLINE_LAMBDA { return magnitude(Wide(x)); };  // in double whatever T is
     const Shifts s = shifts(i, its);
-    T v1, v2, v3;
+    const S zero = T(0), one = T(1);
+    S q1 = zero, q2 = zero, q3 = zero;
+    Starts<S, order> starts;
+    M searching = live;
     int m = i - 2;
     for (;; --m) {
-      const T h11 = h.get(m, m), h22 = h.get(m + 1, m + 1), h44s = s.h44 - h11, h33s = s.h33 - h11;
-      v1 = (h33s * h44s - s.h43h34) / h.get(m + 1, m) + h.get(m, m + 1);
-      v2 = h22 - h11 - h44s - h33s;
-      v3 = h.get(m + 2, m + 1);
-      const double sum = size(v1) + size(v2) + size(v3);
-      v1 = T(v1 / sum);
-      v2 = T(v2 / sum);
-      v3 = T(v3 / sum);
-      if (m == l) break;
-      if (size(v1) * Limits<T>::epsilon * (size(h11) + size(h22) + size(h.get(m - 1, m - 1))) >=
-          (size(v2) + size(v3)) * size(h.get(m, m - 1)))
-        break;
+      const S h11 = h.get(m, m), h22 = h.get(m + 1, m + 1), h44s = s.h44 - h11, h33s = s.h33 - h11;
+      const S u1 = (h33s * h44s - s.h43h34) / h.get(m + 1, m) + h.get(m, m + 1), u2 = h22 - h11 - h44s - h33s;
+      const S u3 = h.get(m + 2, m + 1);
+      const Wide sum = size(u1) + size(u2) + size(u3);
+      q1 = select(searching, S(Wide(u1) / sum), q1);
+      q2 = select(searching, S(Wide(u2) / sum), q2);
+      q3 = select(searching, S(Wide(u3) / sum), q3);
+      M stop = low.at(m);
+      if (m > first) {
+        const Wide small = size(q1) * Wide(Limits<T>::epsilon) * (size(h11) + size(h22) + size(h.get(m - 1, m - 1)));
+        stop = either(stop, Wider<S>::mask(reaches(small, (size(q2) + size(q3)) * size(h.get(m, m - 1)))));
+      }
+      stop = both(searching, stop);
+      starts.note(m, stop);
+      searching = but_not(searching, stop);
+      if (!any(searching) || m == first) break;
     }
-    for (int k = m; k < i; ++k) {
+
+    M active = everywhere<S>(false);
+    const int lowest = m;
+    for (int k = lowest; k < i; ++k) {
       const bool three = k < i - 1;
-      if (k > m) {
-        v1 = h.get(k, k - 1);
-        v2 = h.get(k + 1, k - 1);
-        v3 = three ? h.get(k + 2, k - 1) : T(0);
+      // Above i - 2 nothing starts.
+      const M starting = three ? starts.at(k) : everywhere<S>(false);
+      S v1 = q1, v2 = q2, v3 = three ? q3 : zero;
+      if (k > lowest) {
+        v1 = select(active, h.get(k, k - 1), v1);
+        v2 = select(active, h.get(k + 1, k - 1), v2);
+        if (three) v3 = select(active, h.get(k + 2, k - 1), v3);
       }
-      if (!three) v3 = 0;
-      const T xnorm = root(three ? v2 * v2 + v3 * v3 : v2 * v2);
-      const bool none = xnorm < Limits<T>::safe;
-      T tau = 0;
-      if (!none) {
-        const Reflector<T> r(v1, xnorm);
-        v1 = r.beta;
-        tau = r.tau;
-        v2 = v2 * r.scale;
-        v3 = v3 * r.scale;
+      const M moving = either(active, starting);
+      const S xnorm = root(three ? v2 * v2 + v3 * v3 : v2 * v2);
+      const M still = either(but_not(everywhere<S>(true), moving), exceeds(S(Limits<T>::safe), xnorm));
+      const Reflector<S> r(v1, xnorm);
+      const S tau = select(still, zero, r.tau);
+      v2 = v2 * r.scale;
+      v3 = v3 * r.scale;
+      if (k > lowest) {
+        h.put(k, k - 1, select(active, select(still, v1, r.beta), h.get(k, k - 1)));
+        h.put(k + 1, k - 1, select(active, zero, h.get(k + 1, k - 1)));
+        if (three) h.put(k + 2, k - 1, select(active, zero, h.get(k + 2, k - 1)));
       }
-      if (k > m) {
-        h.put(k, k - 1, v1);
-        h.put(k + 1, k - 1, 0);
-        if (three) h.put(k + 2, k - 1, 0);
-      } else if (m > l) {
-        h.put(m, m - 1, h.get(m, m - 1) * (1 - tau));
+      if (k > first && three) {
+        const M above = but_not(starting, low.at(k));
+        if (any(above)) h.put(k, k - 1, select(above, h.get(k, k - 1) * (one - tau), h.get(k, k - 1)));
       }
-      if (none) continue;
+      active = moving;
+      if (all(still)) continue;
       // Below row k + 3 the columns are still zero.
-      const int first_row = vectors ? 0 : l, rows = std::min(k + 3, i) + 1, columns = vectors ? n : i + 1;
-      if (three) reflect<3>(k, columns, first_row, rows, tau, v2, v3);
-      else reflect<2>(k, columns, first_row, rows, tau, v2, v3);
+      const int first_row = vectors ? 0 : first, rows = std::min(k + 3, i) + 1, columns = vectors ? n : i + 1;
+      if (three) reflect<3>(k, columns, first_row, rows, tau, v2, v3, still);
+      else reflect<2>(k, columns, first_row, rows, tau, v2, v3, still);
     }
   }
 
-  /// What is formed in double whatever T is.
-  static ZELM_INLINE double size(T x) { return std::fabs(double(x)); }
-
   template <int size>
-  ZELM_INLINE void reflect(int k, int columns, int first_row, int rows, T tau, T v2, T v3) {
-    const T t2 = tau * v2, t3 = tau * v3;
-    for (int j = k; j < columns; ++j) {
-      T* const x = h.first + std::ptrdiff_t(j) * n + k;
-      turn<size>(x, x + 1, x + 2, tau, v2, v3, t2, t3);
-    }
-    const auto right = [&](Columns<T> m, int from, int to) ZELM_INLINE_LAMBDA {
-      T *const x = m.first + std::ptrdiff_t(k) * n, *const y = x + n, *const z = y + n;
-      for (int r = from; r < to; ++r) turn<size>(x + r, y + r, z + r, tau, v2, v3, t2, t3);
+  ZELM_INLINE void reflect(int k, int columns, int first_row, int rows, const S& tau, const S& v2, const S& v3,
+                           const M& still) {
+    const S t2 = tau * v2, t3 = tau * v3;
+    const auto turn = [&](S* x, S* y, S* z) ZELM_INLINE_LAMBDA {
+      S sum = load(x) + v2 * load(y);
+      if constexpr (size == 3) sum = sum + v3 * load(z);
+      store(x, load(x) - unless(still, sum * tau));
+      store(y, load(y) - unless(still, sum * t2));
+      if constexpr (size == 3) store(z, load(z) - unless(still, sum * t3));
     };
-    right(h, first_row, rows);
-    if constexpr (vectors) right(q, 0, n);
-  }
-
-  template <int size>
-  static ZELM_INLINE void turn(T* x, T* y, T* z, T tau, T v2, T v3, T t2, T t3) {
-    T sum = load(x) + v2 * load(y);
-    if constexpr (size == 3) sum = sum + v3 * load(z);
-    store(x, load(x) - sum * tau);
-    store(y, load(y) - sum * t2);
-    if constexpr (size == 3) store(z, load(z) - sum * t3);
+    for (int j = k; j < columns; ++j) turn(h.at(k, j), h.at(k + 1, j), h.at(k, j) + 2);
+    for (int r = first_row; r < rows; ++r) turn(h.at(r, k), h.at(r, k + 1), h.at(r, k) + 2 * n);
+    if constexpr (vectors)
+      for (int r = 0; r < n; ++r) turn(q.at(r, k), q.at(r, k + 1), q.at(r, k) + 2 * n);
   }
 };
 

@@ -98,8 +98,7 @@ struct Substitution {
     else return x;
   }
   ZELM_INLINE void rescale(T scale) {
-    if (std::fabs(scale - 1) > L::safe)
-      for (int k = 0; k < end; ++k) work.put(k, work.get(k) * scale);
+    if (std::fabs(scale - 1) > L::safe) ZELM_AS_IT_STANDS for (int k = 0; k < end; ++k) work.put(k, work.get(k) * scale);
   }
 
   ZELM_INLINE void solve_one(int j) {
@@ -117,7 +116,7 @@ struct Substitution {
     }
     rescale(scale);
     work.put(j, x);
-    for (int k = 0; k < j; ++k) work.put(k, work.get(k) - x * t.get(k, j));
+    ZELM_AS_IT_STANDS for (int k = 0; k < j; ++k) work.put(k, work.get(k) - x * t.get(k, j));
   }
 
   /// Elimination with complete pivoting.
@@ -157,7 +156,7 @@ struct Substitution {
     rescale(scale);
     work.put(j - 1, x1);
     work.put(j, x2);
-    for (int k = 0; k < j - 1; ++k) work.put(k, work.get(k) - x1 * t.get(k, j - 1) - x2 * t.get(k, j));
+    ZELM_AS_IT_STANDS for (int k = 0; k < j - 1; ++k) work.put(k, work.get(k) - x1 * t.get(k, j - 1) - x2 * t.get(k, j));
     return true;
   }
 };
@@ -166,17 +165,17 @@ struct Substitution {
 template <Side side, class N, class T>
 ZELM_INLINE bool turn_back(const Triangle<side, T>& t, Columns<T> q, Work<N, T> y, int end, Work<N, T> x) {
   const int n = q.n;
-  for (int i = 0; i < n; ++i) x.put(i, y.get(end - 1) * q.get(i, t.place(end - 1)));
-  for (int k = 0; k < end - 1; ++k) {
+  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) x.put(i, y.get(end - 1) * q.get(i, t.place(end - 1)));
+  ZELM_AS_IT_STANDS for (int k = 0; k < end - 1; ++k) {
     const N yk = y.get(k);
     const int column = t.place(k);
-    for (int i = 0; i < n; ++i) x.put(i, x.get(i) + yk * q.get(i, column));
+    ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) x.put(i, x.get(i) + yk * q.get(i, column));
   }
   T emax = 0;
-  for (int i = 0; i < n; ++i) emax = std::max(emax, size_of(x.get(i)));
+  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) emax = std::max(emax, size_of(x.get(i)));
   if (!(emax > Limits<T>::epsilon)) return false;
   const T scale = 1 / emax;
-  for (int i = 0; i < n; ++i) x.put(i, x.get(i) * scale);
+  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) x.put(i, x.get(i) * scale);
   return true;
 }
 
@@ -184,9 +183,9 @@ ZELM_INLINE bool turn_back(const Triangle<side, T>& t, Columns<T> q, Work<N, T> 
 template <class T>
 ZELM_INLINE void normalise(Work<T, T> x, int n) {
   T sum = 0;
-  for (int i = 0; i < n; ++i) sum = sum + x.get(i) * x.get(i);
+  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) sum = sum + x.get(i) * x.get(i);
   const T scale = 1 / root(sum);
-  for (int i = 0; i < n; ++i) x.put(i, x.get(i) * scale);
+  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) x.put(i, x.get(i) * scale);
 }
 
 /// To length 1, and turned so that the element of largest modulus is real.
@@ -194,9 +193,9 @@ template <class T>
 ZELM_INLINE void normalise(Work<Complex<T>, T> x, int n) {
   const auto square = [&](int i) { return x.get(i).re * x.get(i).re + x.get(i).im * x.get(i).im; };
   T sum = 0;
-  for (int i = 0; i < n; ++i) sum = sum + square(i);
+  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) sum = sum + square(i);
   const T scale = 1 / root(sum);
-  for (int i = 0; i < n; ++i) x.put(i, x.get(i) * scale);
+  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) x.put(i, x.get(i) * scale);
   int k = 0;
   for (int i = 1; i < n; ++i)
     if (square(i) > square(k)) k = i;
@@ -207,7 +206,7 @@ ZELM_INLINE void normalise(Work<Complex<T>, T> x, int n) {
     cs = -cs;
     sn = -sn;
   }
-  for (int i = 0; i < n; ++i) {
+  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) {
     const Complex<T> e = x.get(i);
     x.put(i, {cs * e.re + sn * e.im, cs * e.im - sn * e.re});
   }
@@ -224,7 +223,7 @@ ZELM_INLINE Outcome substitute_all(Columns<T> h, Columns<T> q, const T* re, cons
   T *const colnorm = scratch, *const y_re = scratch + n, *const y_im = y_re + n, *const x_re = y_im + n, *const x_im = x_re + n;
   for (int j = 0; j < n; ++j) {
     T sum = 0;
-    for (int i = 0; i < j; ++i) sum = sum + std::fabs(t.get(i, j));
+    ZELM_AS_IT_STANDS for (int i = 0; i < j; ++i) sum = sum + std::fabs(t.get(i, j));
     store(colnorm + j, sum);
   }
   for (int ki = n - 1; ki >= 0; --ki) {
@@ -235,12 +234,12 @@ ZELM_INLINE Outcome substitute_all(Columns<T> h, Columns<T> q, const T* re, cons
     if (!pair) {
       const Work<T, T> y = {y_re, nullptr}, x = {x_re, nullptr};
       y.put(ki, 1);
-      for (int k = 0; k < ki; ++k) y.put(k, 0 - t.get(k, ki));
+      ZELM_AS_IT_STANDS for (int k = 0; k < ki; ++k) y.put(k, 0 - t.get(k, ki));
       Substitution<side, T, T> s = {t, y, colnorm, end, wr, 0, smini, bignum};
       if (!s.run(ki - 1)) return {zelStsOk, false};
       if (!turn_back(t, q, y, end, x)) return {zelStsNoConvergence, false};
       normalise(x, n);
-      for (int i = 0; i < n; ++i) q.put(i, t.place(ki), x.get(i));
+      ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) q.put(i, t.place(ki), x.get(i));
       continue;
     }
     // The two elements of the block itself: one real, the other imaginary. Left vectors belong to the conjugate value.
@@ -250,13 +249,13 @@ ZELM_INLINE Outcome substitute_all(Columns<T> h, Columns<T> q, const T* re, cons
     const Work<Complex<T>, T> x = {x_re, x_im}, straight = {y_re, y_im};
     y.put(ki - 1, {first, 0});
     y.put(ki, {0, second});
-    for (int k = 0; k < ki - 1; ++k) y.put(k, {-first * t.get(k, ki - 1), -second * t.get(k, ki)});
+    ZELM_AS_IT_STANDS for (int k = 0; k < ki - 1; ++k) y.put(k, {-first * t.get(k, ki - 1), -second * t.get(k, ki)});
     Substitution<side, Complex<T>, T> s = {t, straight, colnorm, end, wr, side == right ? wi : -wi, smini, bignum};
     if (!s.run(ki - 2)) return {zelStsFailure, false};
     if (!turn_back(t, q, straight, end, x)) return {zelStsNoConvergence, false};
     normalise(x, n);
     const int column = std::min(t.place(ki), t.place(ki - 1));
-    for (int i = 0; i < n; ++i) {
+    ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) {
       q.put(i, column, x.get(i).re);
       q.put(i, column + 1, x.get(i).im);
     }

@@ -182,6 +182,49 @@ ZELM_INLINE Many<T, L> but_not(const Many<T, L>& a, const Many<T, L>& b) {
 
 #undef ZELM_PACKS
 
+template <class S>
+ZELM_INLINE S larger(const S& a, const S& b) {
+  return select(exceeds(b, a), b, a);
+}
+template <class S>
+ZELM_INLINE S smaller(const S& a, const S& b) {
+  return select(exceeds(a, b), b, a);
+}
+
+/// The same in double, and the mask of a comparison there.
+template <class S>
+struct Wider {
+  using Type = double;
+  static ZELM_INLINE bool mask(bool m) { return m; }
+};
+template <int L>
+struct Wider<Many<double, L>> {
+  using Type = Many<double, L>;
+  static ZELM_INLINE const Type& mask(const Type& m) { return m; }
+};
+template <int L>
+struct Wider<Many<float, L>> {
+  using Type = Many<double, L>;
+  static ZELM_INLINE Many<float, L> mask(const Type& m) {
+    return Many<float, L>::each([&](int q) -> Pack<float> {
+      return {shuffle<0x88>(_mm_castpd_ps(m.part[2 * q].raw), _mm_castpd_ps(m.part[2 * q + 1].raw))};
+    });
+  }
+};
+
+/// Bit l: the mask of lane l.
+ZELM_INLINE int lanes_set(bool mask) { return mask; }
+
+/// The number of lane l, in memory.
+template <class S>
+ZELM_INLINE ElementOf<S> load_lane(const S* p, int l) {
+  return load(reinterpret_cast<const ElementOf<S>*>(p) + l);
+}
+template <class S>
+ZELM_INLINE void store_lane(S* p, int l, ElementOf<S> x) {
+  store(reinterpret_cast<ElementOf<S>*>(p) + l, x);
+}
+
 /// A mask for all lanes.
 template <class V>
 ZELM_INLINE MaskOf<V> everywhere(bool set) {
