@@ -1,6 +1,8 @@
 // terrain: slope and curvature of an elevation grid. Fits a quadric around every cell (surface.hpp) with two calls of
 // zelm, one that decomposes the matrices of all cells and one that solves them all; times both beside the same work by
 // Eigen, checks every solution, and draws the result.
+// zelm, one that decomposes the normal matrices of all cells and one that solves them all; times both beside the same
+// work by Eigen, checks every residual, and draws the result as maps and in perspective (view.hpp).
 #include <unistd.h>
 #include <zelcore.h>
 #include <zelm.h>
@@ -27,20 +29,24 @@
 #include "grid.hpp"
 #include "maps.hpp"
 #include "surface.hpp"
+#include "view.hpp"
 
 namespace terrain {
 namespace {
 
 constexpr char kUsage[] =
     "Usage: terrain [-o FILE] [--method M] [--repeat N] [GRID]\n"
+    "Usage: terrain [-o FILE] [--view FILE] [--pick X,Y] [--repeat N] [GRID]\n"
     "\n"
     "Fits a quadric around every cell of an elevation grid, reports how long that takes, and draws slope and\n"
-    "mean curvature.\n"
+    "mean curvature, and the terrain in perspective.\n"
     "\n"
     "  GRID        ESRI ASCII grid, in degrees or metres (default: " TERRAIN_GRID
     ")\n"
     "  -o FILE     the picture, a PNG file (default: terrain.png)\n"
     "  --method M  lu or cholesky of the 6 normal equations, or qr of the 25 equations behind them (default: lu)\n"
+    "  --view FILE the terrain in perspective, a PNG file of 900 x 600 pixels (default: view.png)\n"
+    "  --pick X,Y  print which place of the terrain this pixel of the perspective shows\n"
     "  --repeat N  time every call N times, 1 to 1000, and report the median (default: 9)\n"
     "  --help      print this and exit\n"
     "\n"
@@ -51,6 +57,7 @@ enum class Method { lu, cholesky, qr };
 struct Options {
   std::string grid = TERRAIN_GRID, picture = "terrain.png";
   Method method = Method::lu;
+  std::string grid = TERRAIN_GRID, picture = "terrain.png", view = "view.png", pick;
   int repeat = 9;
   bool help = false;
 };
@@ -74,6 +81,10 @@ Options parse(int argc, char** argv) {
       else if (text == "cholesky") options.method = Method::cholesky;
       else if (text == "qr") options.method = Method::qr;
       else throw std::runtime_error("--method takes lu, cholesky or qr, not '" + text + "'");
+    } else if (argument == "--view") {
+      options.view = value();
+    } else if (argument == "--pick") {
+      options.pick = value();
     } else if (argument == "--repeat") {
       const std::string text = value();
       const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), options.repeat);
@@ -317,6 +328,16 @@ void print_times(const std::vector<Times>& times, std::size_t cells) {
   std::printf("\n\n");
 }
 
+void print_place(const View& view, const std::string& pixel) {
+  int x, y, end = 0;
+  if (std::sscanf(pixel.c_str(), "%d,%d%n", &x, &y, &end) != 2 || std::size_t(end) != pixel.size())
+    throw std::runtime_error("--pick takes a column and a row of pixels, like 450,300, not '" + pixel + "'");
+  const auto place = view.pick(x, y);
+  if (!place) throw std::runtime_error("pixel " + pixel + " shows no terrain");
+  std::printf("Pixel %d,%d: column %.2f, row %.2f of the grid, %.1f m high; %.2g m from the triangle that the pixel shows\n", x,
+              y, place->column, place->row, place->height, std::abs(place->error));
+}
+
 void run(const Options& options) {
   const Progress progress;
   progress.show("Reading " + options.grid);
@@ -365,10 +386,17 @@ void run(const Options& options) {
   }
 
   progress.show("Drawing " + options.picture);
-  const Picture picture = draw_maps(grid, surfaces(grid, equations, zelm.solutions()));
+  const std::vector<Surface> fits = surfaces(grid, equations, zelm.solutions());
+  const Picture picture = draw_maps(grid, fits);
   picture.save_png(options.picture);
+  progress.show("Drawing " + options.view);
+  const View view(grid, fits, 900);
+  view.picture().save_png(options.view);
   progress.show("");
   std::printf("Slope and mean curvature: %s, %d x %d pixels\n", options.picture.c_str(), picture.width(), picture.height());
+  std::printf("Perspective, heights times %g: %s; a call transformed its %zu vertices in %.2f ms\n", view.relief(),
+              options.view.c_str(), view.vertices(), view.milliseconds());
+  if (!options.pick.empty()) print_place(view, options.pick);
 }
 
 }  // namespace

@@ -13,21 +13,21 @@ namespace zelm::geometry {
 
 struct LeftHanded {
   static constexpr float w = 1;  // of z, in the homogeneous w of a perspective
-  static const float* from(const float* eye, const float*) { return eye; }
-  static const float* to(const float*, const float* at) { return at; }
+  static Pack<float> direction(Pack<float> eye, Pack<float> at) { return at - eye; }
   static float depth(float near, float far) { return far - near; }
   static float minus_depth(float near, float far) { return 0 - (far - near); }
 };
 struct RightHanded {
   static constexpr float w = -1;
-  static const float* from(const float*, const float* at) { return at; }
-  static const float* to(const float* eye, const float*) { return eye; }
+  static Pack<float> direction(Pack<float> eye, Pack<float> at) { return eye - at; }
   static float depth(float near, float far) { return near - far; }
   static float minus_depth(float near, float far) { return near - far; }
 };
 
 namespace build {
 
+using m4::P;
+using m4::splat;
 using Elements = float[16];
 
 ZELM_INLINE ZelStatus set(float* d, const Elements& m) {
@@ -110,16 +110,14 @@ ZELM_INLINE ZelStatus rotation_yaw_pitch_roll(float yaw, float pitch, float roll
 /// The axes in columns, and the eye in the origin. A direction of length 0, or along `up`, leaves NaNs.
 template <class Hand>
 ZELM_INLINE ZelStatus look_at(const float* eye, const float* at, const float* up, float* d) {
-  float x[3], y[3], z[3];
-  vec::subtract<3>(Hand::to(eye, at), Hand::from(eye, at), z);
-  vec::normalize<3>(z, z);
-  vec::cross3(up, z, y);
-  vec::normalize<3>(y, x);
-  vec::cross3(z, x, y);
-  return set(d, {x[0], y[0], z[0], 0,  //
-                 x[1], y[1], z[1], 0,  //
-                 x[2], y[2], z[2], 0,  //
-                 0 - vec::dot<3>(x, eye), 0 - vec::dot<3>(y, eye), 0 - vec::dot<3>(z, eye), 1});
+  const P from = vec::get<3>(eye), z = vec::unit<3>(Hand::direction(from, vec::get<3>(at)));
+  const P x = vec::unit<3>(vec::cross(vec::get<3>(up), z)), y = vec::cross(z, x);
+  P rows[4] = {x, y, z, P::zero()};
+  transpose(rows);
+  const P origin = rows[0] * splat<0>(from) + rows[1] * splat<1>(from) + rows[2] * splat<2>(from);
+  rows[3] = {_mm_blend_ps((P::zero() - origin).raw, _mm_set1_ps(1), 8)};
+  ZELM_UNROLL for (int i = 0; i < 4; ++i) rows[i].store(d + 4 * i);
+  return zelStsOk;
 }
 
 /// What maps z from near to far onto 0 to 1 after the division by w.

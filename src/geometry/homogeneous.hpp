@@ -4,8 +4,7 @@
 #pragma once
 #include <cfloat>
 
-#include "frame/lanes.hpp"
-#include "zelm_types.h"
+#include "geometry/transform.hpp"
 
 namespace zelm::geometry {
 
@@ -30,33 +29,46 @@ namespace homogeneous {
 
 using P = Pack<float>;
 
-template <class Order, bool beside, class V, class D>
-__attribute__((noinline)) ZelStatus by_four(const P (&matrix)[4][4], V v, D d, int count) {
-  P m[4][4];  // copies that no store to d can change
-  ZELM_UNROLL for (int i = 0; i < 4; ++i) { ZELM_UNROLL for (int j = 0; j < 4; ++j) m[i][j] = matrix[i][j]; }
-  int good_lanes = 15;
+template <class Order>
+struct Divided {
+  P m[4][4];
+
+  ZELM_INLINE int operator()(const P (&v)[3], P (&r)[3]) const {
+    const P w = Order::last_row(m[3], v);
+    const P good = abs(w) > P::splat(FLT_MIN), inverse = P::splat(1) / w;
+    ZELM_UNROLL for (int i = 0; i < 3; ++i) r[i] = Order::row(m[i], v) * inverse;
+    const int bad = lane_bits(good) ^ 15;
+    if (__builtin_expect(bad, 0)) ZELM_UNROLL for (int i = 0; i < 3; ++i) r[i] = select(good, r[i], P::splat(FLT_MAX));
+    return bad;
+  }
+};
+
+/// Elements at any distance from each other.
+template <class Order, class V, class D>
+__attribute__((noinline)) int by_four(const Divided<Order>& body, V v, D d, std::ptrdiff_t count) {
+  const Divided<Order> held = body;
+  int bad = 0;
   const auto block = [&](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
     Lanes<float, 1, 3> p, r;
-    p.template load<beside>(v, k, valid);
-    const P w = Order::last_row(m[3], p.e[0]);
-    const P good = abs(w) > P::splat(FLT_MIN), inverse = P::splat(1) / w;
-    ZELM_UNROLL for (int i = 0; i < 3; ++i) r.e[0][i] = select(good, Order::row(m[i], p.e[0]) * inverse, P::splat(FLT_MAX));
-    r.template store<beside>(d, k, valid);
-    good_lanes &= lane_bits(good);
+    p.load(v, k, valid);
+    bad |= held(p.e[0], r.e[0]);
+    r.store(d, k, valid);
   };
   std::ptrdiff_t k = 0;
   for (; k + 4 <= count; k += 4) block(k, std::integral_constant<int, 4>{});
   if (k < count) block(k, int(count - k));
-  return good_lanes == 15 ? zelStsOk : zelStsDivideByZero;
+  return bad;
 }
 
 template <class Order, class M, class V, class D>
 ZELM_INLINE ZelStatus transform(M matrix, V v, D d, int count) {
-  P m[4][4];
+  Divided<Order> body;
   for (int i = 0; i < 4; ++i)
-    for (int j = 0; j < 4; ++j) m[i][j] = P::splat(matrix.object(0).element(i, j));
-  if (v.interleaved() || d.interleaved()) return by_four<Order, true>(m, v, d, count);
-  return by_four<Order, false>(m, v, d, count);
+    for (int j = 0; j < 4; ++j) body.m[i][j] = P::splat(matrix.object(0).element(i, j));
+  int bad;
+  if constexpr (V::plain) bad = geometry::transform::for_vectors<3>(body, {v.first, v.stride0}, {d.first, d.stride0}, count);
+  else bad = by_four(body, v, d, count);
+  return bad ? zelStsDivideByZero : zelStsOk;
 }
 
 }  // namespace homogeneous

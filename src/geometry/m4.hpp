@@ -3,10 +3,13 @@
 #pragma once
 #include "frame/views.hpp"
 #include "geometry/companions.hpp"
+#include "geometry/vec.hpp"
 
 namespace zelm::geometry::m4 {
 
 using P = Pack<float>;
+using vec::splat;
+using vec::turned;
 using Matrix = Block<float, 4, 4>;
 
 ZELM_INLINE Matrix get(const float* p, int row_bytes = 16) {
@@ -17,11 +20,6 @@ ZELM_INLINE ZelStatus set(float* d, const Matrix& m, int row_bytes = 16) {
   return zelStsOk;
 }
 ZELM_INLINE P row(const Matrix& m, int i) { return m.rows[i].pack[0]; }
-
-template <int lane>
-ZELM_INLINE P splat(P a) {
-  return {shuffle<lane * 0x55>(a.raw, a.raw)};
-}
 
 ZELM_INLINE Matrix product(const Matrix& a, const Matrix& b) {
   Matrix d;
@@ -51,13 +49,6 @@ ZELM_INLINE ZelStatus determinant(const float* m, float* d) {
   };
   store(d, (term(1, 2, 3, 0) - term(0, 2, 3, 1)) + (term(0, 1, 3, 2) - term(0, 1, 2, 3)));
   return zelStsOk;
-}
-
-/// Lane j of the result is lane j + by of a, around the end.
-template <int by>
-ZELM_INLINE P turned(P a) {
-  constexpr auto from = [](int lane) { return (lane + by) % 4 << 2 * lane; };
-  return {shuffle<from(0) | from(1) | from(2) | from(3)>(a.raw, a.raw)};
 }
 
 /// For two rows c and d: the six products of neighbours and opposites of which 2 x 2 minors are differences, and from them the

@@ -111,11 +111,37 @@ bool streams(const Run<const float, N>& s, const Run<float, M>& d, std::ptrdiff_
   return d.packed() && worth_streaming(d.first, count * M) && apart(s, d, count);
 }
 
-/// Four results of 4 elements fill registers of their own: vector after vector, all columns at once.
+/// Results of 4 elements fill a register each: vector after vector, all columns at once.
 template <class Kind, bool streamed>
 __attribute__((noinline)) void by_vector(Rows m, Run<const float, Kind::in> s, Run<float, 4> d, std::ptrdiff_t count) {
   ZELM_AS_IT_STANDS for (std::ptrdiff_t k = 0; k < count; ++k) put<streamed>(times<Kind>(s.at(k), m.of), d.at(k));
   if constexpr (streamed) _mm_sfence();
+}
+
+ZELM_INLINE P low_halves(P a, P b) { return {shuffle<0x44>(a.raw, b.raw)}; }
+ZELM_INLINE P high_halves(P a, P b) { return {shuffle<0xee>(a.raw, b.raw)}; }
+
+/// Vectors of 4 elements at multiples of 16 bytes: loads double their elements, (x, x, z, z) and (y, y, w, w), so that two shuffles
+/// do instead of four. The same terms in the same order.
+template <bool streamed>
+__attribute__((noinline)) void by_aligned_vector(Rows m, Run<const float, 4> s, Run<float, 4> d, std::ptrdiff_t count) {
+  const P xz_left = low_halves(m.of[0], m.of[2]), xz_right = high_halves(m.of[0], m.of[2]);
+  const P yw_left = low_halves(m.of[1], m.of[3]), yw_right = high_halves(m.of[1], m.of[3]);
+  ZELM_AS_IT_STANDS for (std::ptrdiff_t k = 0; k < count; ++k) {
+    const P xz = P::load_even_twice(s.at(k)), yw = P::load_odd_twice(s.at(k));
+    const P left = xz_left * xz + yw_left * yw, right = xz_right * xz + yw_right * yw;
+    put<streamed>(low_halves(left, right) + high_halves(left, right), d.at(k));
+  }
+  if constexpr (streamed) _mm_sfence();
+}
+
+template <class Kind, bool streamed>
+ZELM_INLINE void one_by_one(const float* m, Run<const float, Kind::in> s, Run<float, 4> d, std::ptrdiff_t count) {
+  if constexpr (Kind::in == 4) {
+    if ((std::uintptr_t(s.first) | std::uintptr_t(s.stride)) % 16 == 0)
+      return by_aligned_vector<streamed>(Rows(m), s, d, count);
+  }
+  by_vector<Kind, streamed>(Rows(m), s, d, count);
 }
 
 template <class Kind>
@@ -124,12 +150,12 @@ ZELM_INLINE ZelStatus array(const float* m, const float* src, int src_stride, fl
   const Run<const float, Kind::in> s{src, src_stride};
   const Run<float, 4> d{dst, dst_stride};
   if (count < 1) return zelStsOk;
-  if (streams(s, d, count)) by_vector<Kind, true>(Rows(m), s, d, count);
-  else by_vector<Kind, false>(Rows(m), s, d, count);
+  if (streams(s, d, count)) one_by_one<Kind, true>(m, s, d, count);
+  else one_by_one<Kind, false>(m, s, d, count);
   return zelStsOk;
 }
 
-/// Four vectors in lanes: elements j of v to elements of r.
+/// Four vectors in lanes: elements j of v to elements of r. Gives a bit for each lane whose vector has no result, here none.
 template <class Kind>
 struct Lanewise {
   P column[4][4];
@@ -138,24 +164,26 @@ struct Lanewise {
     for (int c = 0; c < 4; ++c)
       for (int r = 0; r < 4; ++r) column[c][r] = P::splat(load(m + 4 * r + c));
   }
-  ZELM_INLINE void operator()(const P (&v)[Kind::in], P (&r)[Kind::out]) const {
+  ZELM_INLINE int operator()(const P (&v)[Kind::in], P (&r)[Kind::out]) const {
     ZELM_UNROLL for (int c = 0; c < Kind::out; ++c) r[c] = Kind::column(column[c], v);
     if constexpr (divides<Kind>) {
       const P w = Kind::column(column[3], v);
       ZELM_UNROLL for (int c = 0; c < Kind::out; ++c) r[c] = r[c] / w;
     }
+    return 0;
   }
 };
 
 template <class Body, bool packed, bool streamed, int N>
-__attribute__((noinline)) void by_four(const Body& body, Run<const float, N> s, Run<float, N> d, std::ptrdiff_t count) {
+__attribute__((noinline)) int by_four(const Body& body, Run<const float, N> s, Run<float, N> d, std::ptrdiff_t count) {
   const Body held = body;  // that no store to d can change
+  int bad = 0;
   const auto block = [&](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
     P v[N], r[N];
     constexpr bool full = !std::is_same_v<decltype(valid), int>;
     if constexpr (packed && full) packed_to_lanes(v, s.first + k * N);
     else rows_to_lanes(v, [&](int l) { return s.at(k + (l < valid ? l : valid - 1)); });
-    held(v, r);
+    bad |= held(v, r);
     if constexpr (packed && full) {
       lanes_to_packed<streamed>(r, d.first + k * N);
     } else if constexpr (full) {
@@ -170,31 +198,29 @@ __attribute__((noinline)) void by_four(const Body& body, Run<const float, N> s, 
   ZELM_AS_IT_STANDS for (; k + 4 <= count; k += 4) block(k, std::integral_constant<int, 4>{});
   if (k < count) block(k, int(count - k));
   if constexpr (streamed) _mm_sfence();
+  return bad;
 }
 
-/// Calls body(v, r) for all vectors.
+/// Calls body(v, r) for all vectors; 0 if all have results.
 template <int N, class Body>
-ZELM_INLINE ZelStatus for_vectors(const Body& body, const float* src, int src_stride, float* dst, int dst_stride, int count) {
-  const Run<const float, N> s{src, src_stride};
-  const Run<float, N> d{dst, dst_stride};
-  if (count < 1) return zelStsOk;
-  if (!independent(s, d, count)) {
-    for (std::ptrdiff_t k = 0; k < count; ++k)
-      by_four<Body, false, false>(body, Run<const float, N>{s.at(k), src_stride}, Run<float, N>{d.at(k), dst_stride}, 1);
-  } else if (!s.packed() || !d.packed()) {
-    by_four<Body, false, false>(body, s, d, count);
-  } else if (streams(s, d, count)) {
-    by_four<Body, true, true>(body, s, d, count);
-  } else {
-    by_four<Body, true, false>(body, s, d, count);
+ZELM_INLINE int for_vectors(const Body& body, const Run<const float, N>& s, const Run<float, N>& d, std::ptrdiff_t count) {
+  if (count < 1) return 0;
+  if (independent(s, d, count)) {
+    if (!s.packed() || !d.packed()) return by_four<Body, false, false>(body, s, d, count);
+    if (streams(s, d, count)) return by_four<Body, true, true>(body, s, d, count);
+    return by_four<Body, true, false>(body, s, d, count);
   }
-  return zelStsOk;
+  int bad = 0;
+  for (std::ptrdiff_t k = 0; k < count; ++k)
+    bad |= by_four<Body, false, false>(body, Run<const float, N>{s.at(k), s.stride}, Run<float, N>{d.at(k), d.stride}, 1);
+  return bad;
 }
 
 template <class Kind>
 ZELM_INLINE ZelStatus array(const float* m, const float* src, int src_stride, float* dst, int dst_stride,
                             int count) requires(Kind::out < 4) {
-  return for_vectors<Kind::in>(Lanewise<Kind>(m), src, src_stride, dst, dst_stride, count);
+  for_vectors<Kind::in>(Lanewise<Kind>(m), {src, src_stride}, {dst, dst_stride}, count);
+  return zelStsOk;
 }
 
 // Between the world and the screen. A viewport begins at (0, 0); on the screen y points down.
@@ -227,9 +253,10 @@ struct Projecting {
   Projecting(const float* m, const Viewport& screen) : divided(m) {
     for (int j = 0; j < 3; ++j) scale[j] = P::splat(screen.scale[j]), middle[j] = P::splat(screen.middle[j]);
   }
-  ZELM_INLINE void operator()(const P (&v)[3], P (&r)[3]) const {
+  ZELM_INLINE int operator()(const P (&v)[3], P (&r)[3]) const {
     divided(v, r);
     ZELM_UNROLL for (int j = 0; j < 3; ++j) r[j] = r[j] * scale[j] + middle[j];
+    return 0;
   }
 };
 
@@ -240,7 +267,8 @@ ZELM_INLINE ZelStatus project_array(const float* projection, const float* view, 
   float m[16];
   p8_ownMulMat_32f(view, projection, m);
   p8_ownMulMat_32f(world, m, m);
-  return for_vectors<3>(Projecting(m, Viewport(width, height, min_z, max_z)), src, src_stride, dst, dst_stride, count);
+  for_vectors<3>(Projecting(m, Viewport(width, height, min_z, max_z)), {src, src_stride}, {dst, dst_stride}, count);
+  return zelStsOk;
 }
 
 /// The inverse of (world view) projection, taken in double.
@@ -261,10 +289,10 @@ struct Unprojecting {
 
   Unprojecting(const float* m, float w, float h, float near, float far)
       : divided(m), width(P::splat(w)), height(P::splat(h)), min_z(P::splat(near)), depth(P::splat(far - near)) {}
-  ZELM_INLINE void operator()(const P (&v)[3], P (&r)[3]) const {
+  ZELM_INLINE int operator()(const P (&v)[3], P (&r)[3]) const {
     const P n[3] = {(P::splat(2) * v[0]) / width - P::splat(1), (P::splat(-2) * v[1]) / height + P::splat(1),
                     (v[2] - min_z) / depth};
-    divided(n, r);
+    return divided(n, r);
   }
 };
 
@@ -283,7 +311,8 @@ ZELM_INLINE ZelStatus unproject_array(const float* projection, const float* view
                                       int dst_stride, int count) {
   float m[16];
   if (const ZelStatus status = inverse_view(projection, view, world, m); status != zelStsOk) return status;
-  return for_vectors<3>(Unprojecting(m, width, height, min_z, max_z), src, src_stride, dst, dst_stride, count);
+  for_vectors<3>(Unprojecting(m, width, height, min_z, max_z), {src, src_stride}, {dst, dst_stride}, count);
+  return zelStsOk;
 }
 
 }  // namespace transform

@@ -17,10 +17,6 @@ ZELM_INLINE ZelStatus set(float* d, P v) {
   v.store_first<N>(d);
   return zelStsOk;
 }
-ZELM_INLINE ZelStatus set(float* d, float value) {
-  store(d, value);
-  return zelStsOk;
-}
 
 // Element by element
 
@@ -47,32 +43,59 @@ ZELM_INLINE ZelStatus larger(const float* a, const float* b, float* d) {
 
 // Products and lengths
 
+/// Lane j of the result is lane j + by of a, around the end.
+template <int by>
+ZELM_INLINE P turned(P a) {
+  constexpr auto from = [](int lane) { return (lane + by) % 4 << 2 * lane; };
+  return {shuffle<from(0) | from(1) | from(2) | from(3)>(a.raw, a.raw)};
+}
+template <int lane>
+ZELM_INLINE P splat(P a) {
+  return {shuffle<lane * 0x55>(a.raw, a.raw)};
+}
+
+/// a(0) b(0) + a(1) b(1) + ... in the first lane.
 template <int N>
-ZELM_INLINE float dot(const float* a, const float* b) {
-  float sum = load(a) * load(b);
-  ZELM_UNROLL for (int i = 1; i < N; ++i) sum += load(a + i) * load(b + i);
+ZELM_INLINE P dot(P a, P b) {
+  const P products = a * b;
+  P sum = products + turned<1>(products);
+  if constexpr (N > 2) sum = sum + turned<2>(products);
+  if constexpr (N > 3) sum = sum + turned<3>(products);
   return sum;
 }
+/// The root in double, rounded to float, is the root in float: 53 bits are at least 2*24 + 2 (Figueroa, When is double rounding
+/// innocuous?, SIGNUM 1995). The squares overflow in float all the same.
+template <int N>
+ZELM_INLINE P norm(P a) {
+  return {_mm_sqrt_ss(dot<N>(a, a).raw)};
+}
+template <int N>
+ZELM_INLINE P unit(P a) {
+  return a / splat<0>(norm<N>(a));
+}
+
 template <int N>
 ZELM_INLINE ZelStatus dot_product(const float* a, const float* b, float* d) {
-  return set(d, dot<N>(a, b));
+  return set<1>(d, dot<N>(get<N>(a), get<N>(b)));
 }
 template <int N>
 ZELM_INLINE ZelStatus square(const float* a, float* d) {
-  return set(d, dot<N>(a, a));
+  return dot_product<N>(a, a, d);
 }
-
-/// The root in double, rounded to float, is the root in float: 53 bits are at least 2*24 + 2 (Figueroa, When is double rounding
-/// innocuous?, SIGNUM 1995). The squares overflow in float all the same.
-ZELM_INLINE float root(float x) { return __builtin_sqrtf(x); }
-
 template <int N>
 ZELM_INLINE ZelStatus length(const float* a, float* d) {
-  return set(d, root(dot<N>(a, a)));
+  return set<1>(d, norm<N>(get<N>(a)));
 }
 template <int N>
 ZELM_INLINE ZelStatus normalize(const float* a, float* d) {
-  return set<N>(d, get<N>(a) / P::splat(root(dot<N>(a, a))));
+  return set<N>(d, unit<N>(get<N>(a)));
+}
+
+/// a x b of 3 elements.
+ZELM_INLINE P cross(P a, P b) {
+  const auto yzx = [](P v) ZELM_INLINE_LAMBDA { return P{shuffle<0xc9>(v.raw, v.raw)}; };
+  const auto zxy = [](P v) ZELM_INLINE_LAMBDA { return P{shuffle<0xd2>(v.raw, v.raw)}; };
+  return yzx(a) * zxy(b) - zxy(a) * yzx(b);
 }
 
 ZELM_INLINE float minor(const float* a, const float* b, int i, int j) {
@@ -80,11 +103,15 @@ ZELM_INLINE float minor(const float* a, const float* b, int i, int j) {
 }
 
 /// Every element of a cross product is stored before anything is read for the next: a destination that is a source shows it.
-ZELM_INLINE ZelStatus cross2(const float* a, const float* b, float* d) { return set(d, minor(a, b, 0, 1)); }
+ZELM_INLINE ZelStatus cross2(const float* a, const float* b, float* d) {
+  store(d, minor(a, b, 0, 1));
+  return zelStsOk;
+}
 ZELM_INLINE ZelStatus cross3(const float* a, const float* b, float* d) {
   store(d, minor(a, b, 1, 2));
   store(d + 1, minor(a, b, 2, 0));
-  return set(d + 2, minor(a, b, 0, 1));
+  store(d + 2, minor(a, b, 0, 1));
+  return zelStsOk;
 }
 ZELM_INLINE ZelStatus cross4(const float* a, const float* b, const float* c, float* d) {
   // 3 x 3 determinant of the columns i, j, k along a.
@@ -94,7 +121,8 @@ ZELM_INLINE ZelStatus cross4(const float* a, const float* b, const float* c, flo
   store(d, expand(1, 2, 3));
   store(d + 1, 0 - expand(0, 2, 3));
   store(d + 2, expand(0, 1, 3));
-  return set(d + 3, 0 - expand(0, 1, 2));
+  store(d + 3, 0 - expand(0, 1, 2));
+  return zelStsOk;
 }
 
 // Interpolation

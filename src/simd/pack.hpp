@@ -67,6 +67,18 @@ struct Pack<float> {
   /// Past the caches, to a multiple of 16 bytes.
   ZELM_INLINE void stream(float* p) const { _mm_stream_ps(p, raw); }
 
+  /// Elements 0 0 2 2, and 1 1 3 3, from a multiple of 16 bytes: loads, of which a compiler would make one and two shuffles.
+  static ZELM_INLINE Pack load_even_twice(const float* p) {
+    Pack r;
+    __asm__("movsldup %1, %0" : "=x"(r.raw) : "m"(*reinterpret_cast<const __m128*>(p)));
+    return r;
+  }
+  static ZELM_INLINE Pack load_odd_twice(const float* p) {
+    Pack r;
+    __asm__("movshdup %1, %0" : "=x"(r.raw) : "m"(*reinterpret_cast<const __m128*>(p)));
+    return r;
+  }
+
   /// The first n elements; the other lanes are 0.
   template <int n>
   static ZELM_INLINE Pack load_first(const float* p) {
