@@ -1,8 +1,6 @@
 // terrain: slope and curvature of an elevation grid. Fits a quadric around every cell (surface.hpp) with two calls of
 // zelm, one that decomposes the matrices of all cells and one that solves them all; times both beside the same work by
-// Eigen, checks every solution, and draws the result.
-// zelm, one that decomposes the normal matrices of all cells and one that solves them all; times both beside the same
-// work by Eigen, checks every residual, and draws the result as maps and in perspective (view.hpp).
+// Eigen, checks every solution, and draws the result as maps and in perspective (view.hpp).
 #include <unistd.h>
 #include <zelcore.h>
 #include <zelm.h>
@@ -35,8 +33,7 @@ namespace terrain {
 namespace {
 
 constexpr char kUsage[] =
-    "Usage: terrain [-o FILE] [--method M] [--repeat N] [GRID]\n"
-    "Usage: terrain [-o FILE] [--view FILE] [--pick X,Y] [--repeat N] [GRID]\n"
+    "Usage: terrain [-o FILE] [--view FILE] [--pick X,Y] [--method M] [--repeat N] [GRID]\n"
     "\n"
     "Fits a quadric around every cell of an elevation grid, reports how long that takes, and draws slope and\n"
     "mean curvature, and the terrain in perspective.\n"
@@ -44,9 +41,9 @@ constexpr char kUsage[] =
     "  GRID        ESRI ASCII grid, in degrees or metres (default: " TERRAIN_GRID
     ")\n"
     "  -o FILE     the picture, a PNG file (default: terrain.png)\n"
-    "  --method M  lu or cholesky of the 6 normal equations, or qr of the 25 equations behind them (default: lu)\n"
     "  --view FILE the terrain in perspective, a PNG file of 900 x 600 pixels (default: view.png)\n"
     "  --pick X,Y  print which place of the terrain this pixel of the perspective shows\n"
+    "  --method M  lu or cholesky of the 6 normal equations, or qr of the 25 equations behind them (default: lu)\n"
     "  --repeat N  time every call N times, 1 to 1000, and report the median (default: 9)\n"
     "  --help      print this and exit\n"
     "\n"
@@ -55,9 +52,8 @@ constexpr char kUsage[] =
 enum class Method { lu, cholesky, qr };
 
 struct Options {
-  std::string grid = TERRAIN_GRID, picture = "terrain.png";
-  Method method = Method::lu;
   std::string grid = TERRAIN_GRID, picture = "terrain.png", view = "view.png", pick;
+  Method method = Method::lu;
   int repeat = 9;
   bool help = false;
 };
