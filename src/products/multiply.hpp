@@ -59,19 +59,49 @@ inline constexpr bool alone<Each<Single>> = true;
 
 // Fixed sizes
 
+template <class View>
+inline constexpr bool is_transposed = false;
+template <class View>
+inline constexpr bool is_transposed<TransposedView<View>> = true;
+
 /// All elements of the one left operand of a call, each in all lanes of a register.
 template <class T, int N>
 struct Spread {
   Pack<T> e[N][N];
   ZELM_INLINE const Spread& object(std::ptrdiff_t) const { return *this; }
-  ZELM_INLINE Pack<T> spread(int i, int k) const { return e[i][k]; }
 };
 
-template <class Object>
-ZELM_INLINE auto spread(const Object& a, int i, int k) {
-  if constexpr (requires { a.spread(i, k); }) return a.spread(i, k);
-  else return Pack<typename Object::T>::splat(a.element(i, k));
-}
+/// Row i of the left operand, one element at a time in all lanes: doubles by loads that broadcast, floats of a row in memory by
+/// shuffles of as few loads as may be.
+template <int N, class Object>
+struct LeftRow {
+  using T = typename Object::T;
+  static constexpr bool by_shuffles = Object::plain && sizeof(T) == 4;
+  static constexpr int full = N / 4, pairs = N % 4 / 2;
+  const Object& a;
+  int i;
+  Pack<T> four[full + 1], two;
+
+  ZELM_INLINE LeftRow(const Object& object, int row) : a(object), i(row) {
+    if constexpr (by_shuffles) {
+      ZELM_UNROLL for (int q = 0; q < full; ++q) four[q] = Pack<T>::load(a.at(i, 4 * q));
+      if (pairs) two = Pack<T>::template load_first<2>(a.at(i, 4 * full));
+    }
+  }
+  ZELM_INLINE Pack<T> spread(int k) const {
+    if constexpr (by_shuffles) {
+      if (k < 4 * full) return spread_lane(four[k / 4], k % 4);
+      if (k < 4 * full + 2 * pairs) return spread_lane(two, k % 4);
+    }
+    return Pack<T>::splat(a.element(i, k));
+  }
+};
+template <int N, class T>
+struct LeftRow<N, Spread<T, N>> {
+  const Spread<T, N>& a;
+  int i;
+  ZELM_INLINE Pack<T> spread(int k) const { return a.e[i][k]; }
+};
 
 template <int N, class View>
 ZELM_INLINE auto spread_all(const View& view) {
@@ -93,9 +123,10 @@ ZELM_INLINE decltype(auto) as_block(const Object& b) {
 /// Row i of the product.
 template <int N, class T, class A>
 ZELM_INLINE Row<T, N> row_of_product(const A& a, int i, const Block<T, N, N>& b) {
+  const LeftRow<N, A> left{a, i};
   Row<T, N> sum;
   ZELM_UNROLL for (int k = 0; k < N; ++k) {
-    const Pack<T> x = spread(a, i, k);
+    const Pack<T> x = left.spread(k);
     ZELM_UNROLL for (int q = 0; q < Row<T, N>::packs; ++q) {
       const Pack<T> term = x * b.rows[k].pack[q];
       sum.pack[q] = k == 0 ? term : sum.pack[q] + term;
@@ -115,35 +146,87 @@ __attribute__((noinline)) void multiply_each(A a, B b, D d, std::ptrdiff_t first
     const auto& x = left.object(k);
     const auto& y = as_block<N>(right.object(k));
     const auto z = d.object(k);
-    ZELM_UNROLL for (int i = 0; i < N; ++i) z.template set_row<N>(i, row_of_product<N>(x, i, y));
+    if constexpr (requires { d.table; }) {  // a few objects only
+      ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) z.template set_row<N>(i, row_of_product<N>(x, i, y));
+    } else {
+      ZELM_UNROLL for (int i = 0; i < N; ++i) z.template set_row<N>(i, row_of_product<N>(x, i, y));
+    }
   }
 }
 
-/// Interleaved arrays: the lanes are objects. Returns the number of objects done.
-template <int N, class A, class B, class D>
-__attribute__((noinline)) std::ptrdiff_t multiply_beside(A a, B b, D d, std::ptrdiff_t count) {
+/// Element (i, j) of as many objects as there are lanes, for all j.
+template <bool beside, int N, class View>
+ZELM_INLINE void load_lanes(Pack<typename View::T> (&to)[N], const View& view, std::ptrdiff_t k, int i) {
+  using P = Pack<typename View::T>;
+  constexpr int L = P::lanes;
+  if constexpr (View::Object::plain || requires { view.list; }) {
+    typename View::Object objects[L];
+    view.objects(k, L, objects);
+    load_row(to, objects, [&](int) { return i; });
+  } else {
+    ZELM_UNROLL for (int j = 0; j < N; ++j) {
+      const auto* const first = view.object(k).at(i, j);
+      to[j] = beside ? P::load(first) : P::template gather<L>([&](int l) { return moved(first, l * view.stride0); });
+    }
+  }
+}
+
+template <bool beside, int N, class View>
+ZELM_INLINE void store_lanes(const Pack<typename View::T> (&from)[N], const View& view, std::ptrdiff_t k, int i) {
+  constexpr int L = Pack<typename View::T>::lanes;
+  if constexpr (View::Object::plain || requires { view.list; }) {
+    typename View::Object objects[L];
+    view.objects(k, L, objects);
+    store_row(from, objects, [&](int) { return i; });
+  } else {
+    ZELM_UNROLL for (int j = 0; j < N; ++j) {
+      auto* const first = view.object(k).at(i, j);
+      if constexpr (beside) from[j].store(first);
+      else from[j].template scatter<L>([&](int l) { return moved(first, l * view.stride0); });
+    }
+  }
+}
+
+/// All elements of as many objects as there are lanes, or of a single one in every lane; of a transposed view as stored.
+template <bool beside, class P, int N, class View>
+ZELM_INLINE void load_all(P (&to)[N][N], const View& view, std::ptrdiff_t k) {
+  if constexpr (is_transposed<View>) {
+    load_all<beside>(to, view.stored, k);
+  } else if constexpr (View::array) {
+    ZELM_UNROLL for (int i = 0; i < N; ++i) load_lanes<beside>(to[i], view, k, i);
+  } else {
+    const auto object = view.object(0);
+    ZELM_UNROLL for (int i = 0; i < N; ++i) {
+      ZELM_UNROLL for (int j = 0; j < N; ++j) to[i][j] = P::splat(object.element(i, j));
+    }
+  }
+}
+
+/// The lanes are objects, which saves the shuffles of the broadcasts and fills all lanes. `beside`: all arrays are interleaved.
+/// Returns the number of objects done.
+template <int N, bool beside, class A, class B, class D>
+__attribute__((noinline)) std::ptrdiff_t multiply_lanes(A a, B b, D d, std::ptrdiff_t count) {
   using P = Pack<typename D::T>;
   P left[N][N], right[N][N];
-  const auto load_all = [](P(&to)[N][N], const auto& view, std::ptrdiff_t k) ZELM_INLINE_LAMBDA {
-    const auto object = view.object(k);
-    ZELM_UNROLL for (int i = 0; i < N; ++i) {
-      ZELM_UNROLL for (int j = 0; j < N; ++j) to[i][j] = view.array ? P::load(object.at(i, j)) : P::splat(object.element(i, j));
-    }
-  };
-  if constexpr (!A::array) load_all(left, a, 0);
-  if constexpr (!B::array) load_all(right, b, 0);
+  if constexpr (!A::array) load_all<beside>(left, a, 0);
+  if constexpr (!B::array) load_all<beside>(right, b, 0);
   std::ptrdiff_t k = 0;
   for (; k + P::lanes <= count; k += P::lanes) {
-    if constexpr (B::array) load_all(right, b, k);
-    const auto z = d.object(k);
+    if constexpr (A::array && is_transposed<A>) load_all<beside>(left, a, k);
+    if constexpr (B::array) load_all<beside>(right, b, k);
     ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) {
-      P x[N];
-      ZELM_UNROLL for (int m = 0; m < N; ++m) x[m] = A::array ? P::load(a.object(k).at(i, m)) : left[i][m];
-      ZELM_UNROLL for (int j = 0; j < N; ++j) {
-        P sum = x[0] * right[0][j];
-        ZELM_UNROLL for (int m = 1; m < N; ++m) sum = sum + x[m] * right[m][j];
-        sum.store(z.at(i, j));
+      P x[N], sum[N];
+      if constexpr (A::array && !is_transposed<A>) {
+        load_lanes<beside>(x, a, k, i);
+      } else {
+        ZELM_UNROLL for (int m = 0; m < N; ++m) x[m] = is_transposed<A> ? left[m][i] : left[i][m];
       }
+      ZELM_UNROLL for (int j = 0; j < N; ++j) {
+        const auto term = [&](int m) { return x[m] * (is_transposed<B> ? right[j][m] : right[m][j]); };
+        sum[j] = term(0);
+        ZELM_UNROLL for (int m = 1; m < N; ++m) sum[j] = sum[j] + term(m);
+      }
+      store_lanes<beside>(sum, d, k, i);
     }
   }
   return k;
@@ -151,12 +234,22 @@ __attribute__((noinline)) std::ptrdiff_t multiply_beside(A a, B b, D d, std::ptr
 
 template <int N, class A, class B, class D>
 ZELM_INLINE void multiply_fixed(const A& a, const B& b, const D& d, int count) {
+  constexpr bool tables = requires { d.table; };
+  // Rows of five waste three lanes of eight; with B at hand in all lanes that is more than the way into lanes costs.
+  constexpr bool wasteful = D::Object::plain && sizeof(typename D::T) == 4 && N == 5 && !B::array;
   std::ptrdiff_t done = 0;
-  if constexpr (D::array && !D::plain) {
-    if (d.interleaved() && (!A::array || a.interleaved()) && (!B::array || b.interleaved()))
-      done = multiply_beside<N>(a, b, d, count);
+  if constexpr (D::array) {
+    if (count >= Pack<typename D::T>::lanes) {
+      if constexpr (!D::Object::plain) {
+        if (d.interleaved() && (!A::array || a.interleaved()) && (!B::array || b.interleaved()))
+          done = multiply_lanes<N, true>(a, b, d, count);
+      }
+      if constexpr (tables || wasteful) {
+        if (done == 0) done = multiply_lanes<N, false>(a, b, d, count);
+      }
+    }
   }
-  multiply_each<N>(a, b, d, done, count);
+  if (done < count) multiply_each<N>(a, b, d, done, count);
 }
 
 /// True if the product is square and of one of the policy's fixed orders, and then done.
@@ -175,11 +268,6 @@ ZELM_INLINE bool multiply_small(const A& a, const B& b, const D& d, Shape s, int
   if constexpr (Policy::to >= 6) multiply_fixed<6>(a, b, d, count);
   return true;
 }
-
-template <class View>
-inline constexpr bool is_transposed = false;
-template <class View>
-inline constexpr bool is_transposed<TransposedView<View>> = true;
 
 /// The formula, as the kernels call it. Sizes are those of the sources as stored.
 template <class Policy, class A, class B, class D>

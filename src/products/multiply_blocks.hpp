@@ -36,90 +36,128 @@ ZELM_INLINE Pack<T> total(const Pack<T> (&p)[S]) {
   }
 }
 
-/// Q registers of sums in S partial sums. x(k): the factor of all lanes; y(k, q): the other factors.
-template <int S, int Q, class T, class X, class Y>
-ZELM_INLINE void sum_terms(Pack<T> (&sum)[Q], int terms, X x, Y y) {
-  Pack<T> part[Q][S];
-  const auto add = [&](int k, bool first) ZELM_INLINE_LAMBDA {
-    ZELM_UNROLL for (int s = 0; s < S; ++s) {
-      const Pack<T> factor = x(k + s);
-      ZELM_UNROLL for (int q = 0; q < Q; ++q) {
-        const Pack<T> term = factor * y(k + s, q);
-        part[q][s] = first ? term : part[q][s] + term;
+/// Lines of the product that run along the lanes: rows, or columns where the lanes are rows. All steps count bytes.
+///   x + line * x_line + k * x_term   factor of a whole line
+///   y + k * y_term                   factors of its elements, neighbours in memory
+///   d + line * d_line                its elements, `down` columns d_element apart, else neighbours
+template <class T>
+struct Lines {
+  const T* x;
+  Bytes x_line, x_term;
+  const T* y;
+  Bytes y_term;
+  T* d;
+  Bytes d_line, d_element;
+  int terms;
+};
+
+/// Q registers of elements of each of the lines from element e on, of the last one n elements. `along`: x_term is one element.
+template <int S, bool along, bool down, int Q, int n, class T>
+__attribute__((noinline)) void sum_lines(const Lines<T>& of, int lines, int e) {
+  using P = Pack<T>;
+  constexpr int L = P::lanes;
+  const T *x_start = of.x, *const y_start = of.y + e;
+  T* d = moved(of.d, e * of.d_element);
+  const Bytes x_term = along ? Bytes(sizeof(T)) : of.x_term, y_term = of.y_term;
+  const Bytes x_line = of.x_line, d_line = of.d_line, d_element = of.d_element;  // no store to d can change these
+  const int sets = of.terms / S, rest = of.terms % S;
+  ZELM_AS_IT_STANDS for (; lines > 0; --lines, x_start = moved(x_start, x_line), d = moved(d, d_line)) {
+    const T *x = x_start, *y = y_start;
+    P part[Q][S], sum[Q];
+    const auto add_set = [&](bool first) ZELM_INLINE_LAMBDA {
+      P factor[S];
+      ZELM_UNROLL for (int s = 0; s < S; ++s) {
+        if constexpr (along && L == 4 && S > 1) factor[s] = spread_lane(P::load(x + s / 4 * 4), s % 4);
+        else factor[s] = P::splat(load(moved(x, s * x_term)));
       }
+      ZELM_UNROLL for (int s = 0; s < S; ++s) {
+        ZELM_UNROLL for (int q = 0; q < Q; ++q) {
+          const P term = factor[s] * P::template load_first<n>(moved(y, s * y_term) + q * L);
+          part[q][s] = first ? term : part[q][s] + term;
+        }
+      }
+      x = moved(x, S * x_term);
+      y = moved(y, S * y_term);
+      __asm__("" : "+r"(x), "+r"(y));  // two addresses to carry along, not one for each term
+    };
+    const auto add_one = [&](bool first) ZELM_INLINE_LAMBDA {
+      const P factor = P::splat(load(x));
+      ZELM_UNROLL for (int q = 0; q < Q; ++q) {
+        const P term = factor * P::template load_first<n>(y + q * L);
+        sum[q] = first ? term : sum[q] + term;
+      }
+      x = moved(x, x_term);
+      y = moved(y, y_term);
+    };
+    int left = rest;
+    if (sets > 0) {
+      add_set(true);
+      ZELM_AS_IT_STANDS for (int set = 1; set < sets; ++set) add_set(false);
+      ZELM_UNROLL for (int q = 0; q < Q; ++q) sum[q] = total<S, T>(part[q]);
+    } else {
+      add_one(true);
+      --left;
     }
-  };
-  int k = 1;
-  if (terms >= S) {
-    add(0, true);
-    k = S;
-    ZELM_AS_IT_STANDS for (; k + S <= terms; k += S) add(k, false);
-    ZELM_UNROLL for (int q = 0; q < Q; ++q) sum[q] = total<S, T>(part[q]);
-  } else {
-    ZELM_UNROLL for (int q = 0; q < Q; ++q) sum[q] = x(0) * y(0, q);
+    ZELM_AS_IT_STANDS for (; left > 0; --left) add_one(false);
+    ZELM_UNROLL for (int q = 0; q < Q; ++q) {
+      sum[q] = sum[q] + P::zero();
+      if constexpr (down) sum[q].template scatter<n>([&](int l) { return moved(d, (q * L + l) * d_element); });
+      else sum[q].template store_first<n>(d + q * L);
+    }
   }
-  ZELM_AS_IT_STANDS for (; k < terms; ++k) {
-    const Pack<T> factor = x(k);
-    ZELM_UNROLL for (int q = 0; q < Q; ++q) sum[q] = sum[q] + factor * y(k, q);
-  }
-  ZELM_UNROLL for (int q = 0; q < Q; ++q) sum[q] = sum[q] + Pack<T>::zero();
 }
 
-/// Elements from, ..., to - 1 of a line of the product that runs along the lanes.
-///   x(k)       factor of the whole line
-///   y(k, e)    address of the factor of element e
-///   z(sum, e, n)  stores n elements from e on; n is a constant
-template <int S, class T, class X, class Y, class Z>
-__attribute__((noinline)) void sum_line(int from, int to, int terms, X x, Y y, Z z) {
-  using P = Pack<T>;
-  constexpr int L = P::lanes, Q = S == 8 ? 1 : 8 / L;
-  const auto factor = [&](int k) ZELM_INLINE_LAMBDA { return P::splat(load(x(k))); };
-  const auto some = [&]<int q, int n>(int e, std::integral_constant<int, q>,
-                                      std::integral_constant<int, n>) ZELM_INLINE_LAMBDA {
-    P sum[q];
-    sum_terms<S, q, T>(sum, terms, factor, [&](int k, int p) { return P::template load_first<n>(y(k, e) + p * L); });
-    ZELM_UNROLL for (int p = 0; p < q; ++p) z(sum[p], e + p * L, std::integral_constant<int, n>());
-  };
-  const auto packs = [&](int e, auto q) ZELM_INLINE_LAMBDA { some(e, q, std::integral_constant<int, L>()); };
-  const auto rest = [&](int e, auto n) ZELM_INLINE_LAMBDA { some(e, std::integral_constant<int, 1>(), n); };
+/// Elements from, ..., to - 1 of the lines.
+template <int S, bool along, bool down, class T>
+ZELM_INLINE void sum_lines(const Lines<T>& of, int lines, int from, int to) {
+  constexpr int L = Pack<T>::lanes, Q = S == 8 ? 1 : 8 / L;
   int e = from;
-  for (; e + Q * L <= to; e += Q * L) packs(e, std::integral_constant<int, Q>());
+  for (; e + Q * L <= to; e += Q * L) sum_lines<S, along, down, Q, L>(of, lines, e);
   for (; e < to; e += L) {
-    if (to - from >= L) packs(std::min(e, to - L), std::integral_constant<int, 1>());  // some elements twice
-    else if (to - e == 1) rest(e, std::integral_constant<int, 1>());
-    else if (to - e == 2 || L == 2) rest(e, std::integral_constant<int, 2>());
-    else rest(e, std::integral_constant < int, 3 <= L ? 3 : L > ());
+    if (to - from >= L) sum_lines<S, along, down, 1, L>(of, lines, std::min(e, to - L));  // some elements twice
+    else if (to - e == 1) sum_lines<S, along, down, 1, 1>(of, lines, e);
+    else if (to - e == 2) sum_lines<S, along, down, 1, 2>(of, lines, e);
+    else sum_lines<S, along, down, 1, std::min(3, L)>(of, lines, e);
   }
+}
+
+template <class Object>
+ZELM_INLINE Bytes row_step(const Object& o) {
+  if constexpr (Object::turned) return sizeof(typename Object::T);
+  else return o.row_stride;
+}
+template <class Object>
+ZELM_INLINE Bytes column_step(const Object& o) {
+  if constexpr (Object::turned) return o.stored.row_stride;
+  else return sizeof(typename Object::T);
 }
 
 /// B is read row by row: the lanes are columns.
 template <class A, class B, class D>
 ZELM_INLINE void multiply_rows(const A& a, const B& b, const D& d, Shape s) {
   using T = typename D::T;
-  for (int i = 0; i < s.rows; ++i) {
-    const auto x = [=](int k) { return a.at(i, k); };
-    const auto y = [=](int k, int j) { return b.at(k, j); };
-    const auto z = [=](Pack<T> sum, int j, auto n) { sum.template store_first<n>(d.at(i, j)); };
-    if (i < s.rows / 4 * 4) sum_line<Pack<T>::lanes, T>(0, s.columns, s.terms, x, y, z);
-    else if (s.terms >= 8) sum_line<8, T>(0, s.columns, s.terms, x, y, z);
-    else sum_line<1, T>(0, s.columns, s.terms, x, y, z);
-  }
+  const auto lines = [&](int i) {
+    return Lines<T>{a.at(i, 0), row_step(a), column_step(a), b.at(0, 0), row_step(b),
+                    d.at(i, 0), row_step(d), sizeof(T),      s.terms};
+  };
+  const int in_fours = s.rows / 4 * 4;
+  if (in_fours > 0) sum_lines<Pack<T>::lanes, A::plain, false>(lines(0), in_fours, 0, s.columns);
+  if (in_fours == s.rows) return;
+  if (s.terms >= 8) sum_lines<8, A::plain, false>(lines(in_fours), s.rows - in_fours, 0, s.columns);
+  else sum_lines<1, A::plain, false>(lines(in_fours), s.rows - in_fours, 0, s.columns);
 }
 
 /// Both are transposed, and A is read row by row as stored: the lanes are rows.
 template <class A, class B, class D>
 ZELM_INLINE void multiply_columns(const A& a, const B& b, const D& d, Shape s) {
   using T = typename D::T;
+  const Lines<T> lines = {b.at(0, 0), column_step(b), row_step(b), a.at(0, 0), column_step(a),
+                          d.at(0, 0), column_step(d), row_step(d), s.terms};
   const int in_fours = s.rows / 4 * 4;
-  for (int j = 0; j < s.columns; ++j) {
-    const auto x = [=](int k) { return b.at(k, j); };
-    const auto y = [=](int k, int i) { return a.at(i, k); };
-    const auto z = [=](Pack<T> sum, int i, auto n) { sum.template scatter<n>([&](int l) { return d.at(i + l, j); }); };
-    if (in_fours > 0) sum_line<Pack<T>::lanes, T>(0, in_fours, s.terms, x, y, z);
-    if (in_fours == s.rows) continue;
-    if (s.terms >= 8) sum_line<8, T>(in_fours, s.rows, s.terms, x, y, z);
-    else sum_line<1, T>(in_fours, s.rows, s.terms, x, y, z);
-  }
+  if (in_fours > 0) sum_lines<Pack<T>::lanes, true, true>(lines, s.columns, 0, in_fours);
+  if (in_fours == s.rows) return;
+  if (s.terms >= 8) sum_lines<8, true, true>(lines, s.columns, in_fours, s.rows);
+  else sum_lines<1, true, true>(lines, s.columns, in_fours, s.rows);
 }
 
 /// The sums of the lanes of L registers.

@@ -189,6 +189,18 @@ struct Pack<double> {
   friend ZELM_INLINE __m128i to_int32(Pack a) { return _mm_cvttpd_epi32(a.raw); }
 };
 
+/// Lane l in all lanes; l is a constant once loops are unrolled. PSHUFD leaves its source as it is, which saves a copy.
+ZELM_INLINE Pack<float> spread_lane(Pack<float> p, int l) {
+  __m128 r;
+  switch (l) {
+    case 0: __asm__("pshufd $0x00, %1, %0" : "=x"(r) : "x"(p.raw)); break;
+    case 1: __asm__("pshufd $0x55, %1, %0" : "=x"(r) : "x"(p.raw)); break;
+    case 2: __asm__("pshufd $0xaa, %1, %0" : "=x"(r) : "x"(p.raw)); break;
+    default: __asm__("pshufd $0xff, %1, %0" : "=x"(r) : "x"(p.raw)); break;
+  }
+  return {r};
+}
+
 /// A destination of this many bytes and more is written past the caches, where it is overwritten as a whole and no source lies in
 /// it: no cache could keep it, and its old contents need not be read first (measured on a Sapphire Rapids with 260 MiB of cache:
 /// copies of 180 MiB take half the time).
