@@ -1,6 +1,7 @@
 // reductions.cpp: dot and cross products, norms, traces.
 #include <zelm.h>
 
+#include <cmath>
 #include <limits>
 
 #include "frame.hpp"
@@ -16,7 +17,15 @@ bool reduction(const char* operation, int n, std::vector<Operand> operands, std:
   Case c{.operation = operation, .type = kTypeTag<T>, .n = n, .layout = layout};
   c.operands = std::move(operands);
   c.call = call;
-  c.tolerance = 100 * n * double(std::numeric_limits<T>::epsilon());  // rivals add in other orders, terms may cancel
+  c.tolerance = 100 * n * double(std::numeric_limits<T>::epsilon());  // rivals add in other orders
+  if (c.operands.back().elements == 1)                                // sums: positive terms, which do not cancel
+    c.fill = [inputs = c.operands](const Array* at, int count) {
+      for (std::size_t o = 0; o + 1 < inputs.size(); ++o) {
+        const std::size_t size = std::size_t(inputs[o].elements) * (inputs[o].array ? std::size_t(count) : 1);
+        fill_uniform(at[o].of<T>(), size);
+        for (std::size_t e = 0; e < size; ++e) at[o].of<T>()[e] = std::abs(at[o].of<T>()[e]);
+      }
+    };
   c.limits = std::move(limits);
   return measure(c);
 }
