@@ -447,155 +447,165 @@ ZelStatus zelmAdd_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const
 
 /* ---- CholeskyBackSubst ---- */
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
     const float* pSrc2, int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2,
     int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1,
     int src1Stride2, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst,
     int dstByteShift, int dstStride2, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
     int dstStride0, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
     const double* pSrc2, int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2,
     int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1,
     int src1Stride2, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst,
     int dstByteShift, int dstStride2, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
     int dstStride0, int widthHeight, int count);
 
-/** solves A x = b from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order widthHeight;
+    b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, const float* pSrc2,
     int src2Stride2, float* pDst, int dstStride2, int widthHeight);
 
-/** solves A x = b from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order widthHeight;
+    b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
     int src2ByteShift, float* const* ppDst, int dstByteShift, int widthHeight);
 
-/** solves A x = b from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order widthHeight;
+    b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, const double* pSrc2,
     int src2Stride2, double* pDst, int dstStride2, int widthHeight);
 
-/** solves A x = b from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order widthHeight;
+    b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift, int widthHeight);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, const float* pSrc2,
     int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
     int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
     int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift, int dstStride0, int widthHeight,
     int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, const double* pSrc2,
     int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
     int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight,
     int count);
 
 /* ---- CholeskyDecomp ---- */
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDst, int dstStride1,
     int dstStride2, int widthHeight);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_m_32f_P(const float* const* ppSrc, int srcByteShift, float* const* ppDst,
     int dstByteShift, int widthHeight);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDst, int dstStride1,
     int dstStride2, int widthHeight);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_m_64f_P(const double* const* ppSrc, int srcByteShift, double* const* ppDst,
     int dstByteShift, int widthHeight);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
     float* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
     double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
@@ -1378,55 +1388,75 @@ ZelStatus zelmQRBackSubst_mva_64f_P(const double* const* ppSrc1, int src1ByteShi
 
 /* ---- QRDecomp ---- */
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer, float* pDst,
     int dstStride1, int dstStride2, int width, int height);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer, float* const* ppDst,
     int dstByteShift, int width, int height);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer, double* pDst,
     int dstStride1, int dstStride2, int width, int height);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer, double* const* ppDst,
     int dstByteShift, int width, int height);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
     float* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     void* pBuffer, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height,
     int count);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
     float* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
     double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     void* pBuffer, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height,
     int count);
 
-/** A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left
-    out); A and D height x width, width <= height; pBuffer height elements. May return zelStsDivideByZero. */
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
 ZelStatus zelmQRDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
