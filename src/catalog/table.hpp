@@ -196,18 +196,23 @@ inline constexpr Row kRows[] = {
      "solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote", kSolveShapes},
     {"CholeskyDecomp", "m ma", "src dst widthHeight count", "c*n*n", "7501/7501 2001/2001 2001 2001/2001 721/2001 2001",
      "solvers", "cholesky::decompose",
-     "A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L, with the "
-     "reciprocals of L's diagonal on its diagonal",
+     "A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower "
+     "triangle "
+     "of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less fails; of 2^-23 or "
+     "less "
+     "in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up",
      kSquareShapes, "zelStsNotPositiveDefinite"},
     {"CholeskyBackSubst", "mv", "src1 src2 dst widthHeight count", "", "", "solvers", "cholesky::solve",
-     "solves A x = b from the factor that zelmCholeskyDecomp wrote", kSolveShapes},
+     "solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b", kSolveShapes},
     {"CholeskyBackSubst", "mva", "src1 src2 dst widthHeight count", "n*n+2*c*n", "1201/1201 721/721 721 721/721 721/721 721",
-     "solvers", "cholesky::solve", "solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote", kSolveShapes},
+     "solvers", "cholesky::solve",
+     "solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b", kSolveShapes},
     {"CholeskyBackSubst", "mava", "src1 src2 dst widthHeight count", "(n+2)*n*c",
      "2051/1701 1701/1701 1701 1701/1701 1701/1701 2051", "solvers", "cholesky::solve",
-     "solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote", kSolveShapes},
+     "solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b", kSolveShapes},
     {"QRDecomp", "m ma", "src pBuffer dst width height count", "2*c*w*h", kQRLimits, "solvers", "qr::decompose",
-     "A = Q R by Householder reflections. D holds R and, below its diagonal, the reflection vectors (leading 1 left out)",
+     "A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors (leading 1 "
+     "left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the last of a square A",
      "A and D height x width, width <= height; pBuffer height elements", "zelStsDivideByZero", "h*E", "width <= height"},
     {"QRBackSubst", "mv", "src1 pBuffer src2 dst width height count", "", "", "solvers", "qr::solve",
      "least-squares solution of A x = b from the result of zelmQRDecomp",

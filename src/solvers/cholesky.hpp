@@ -140,17 +140,21 @@ struct Triangle {
     return pivot;
   }
 
-  /// L L^T x = b, in place.
-  ZELM_INLINE void substitute(P (&x)[N]) const {
-    ZELM_UNROLL for (int i = 0; i < N; ++i) {
-      ZELM_UNROLL for (int j = 0; j < i; ++j) x[i] = x[i] - e[i][j] * x[j];
-      x[i] = x[i] * e[i][i];
-    }
-    ZELM_UNROLL for (int i = N - 1; i >= 0; --i) {
-      ZELM_UNROLL for (int j = i + 1; j < N; ++j) x[i] = x[i] - e[j][i] * x[j];
-      x[i] = x[i] * e[i][i];
-    }
+  /// L L^T x = b, in place, for B registers of right-hand sides. Their steps alternate: the chain of one alone leaves the processor
+  /// waiting, which looks only so far ahead.
+  template <int B>
+  ZELM_INLINE void substitute(P* const (&x)[B]) const {
+    const auto row = [&](int i, int from, int to, auto factor) ZELM_INLINE_LAMBDA {
+      ZELM_UNROLL for (int j = from; j < to; ++j) {
+        const P f = factor(j);
+        ZELM_UNROLL for (int b = 0; b < B; ++b) x[b][i] = x[b][i] - f * x[b][j];
+      }
+      ZELM_UNROLL for (int b = 0; b < B; ++b) x[b][i] = x[b][i] * e[i][i];
+    };
+    ZELM_UNROLL for (int i = 0; i < N; ++i) row(i, 0, i, [&](int j) ZELM_INLINE_LAMBDA { return e[i][j]; });
+    ZELM_UNROLL for (int i = N - 1; i >= 0; --i) row(i, i + 1, N, [&](int j) ZELM_INLINE_LAMBDA { return e[j][i]; });
   }
+  ZELM_INLINE void substitute(P (&x)[N]) const { substitute<1>({x}); }
 };
 
 // Decomposition
@@ -341,11 +345,21 @@ void solve_vectors(A a, B b, D d, int count) {
   using T = typename D::T;
   Triangle<T, N> f;
   f.spread(a.object(0));
-  for_blocks<Pack<T>::lanes>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
+  constexpr int L = Pack<T>::lanes;
+  std::ptrdiff_t k = 0;
+  for (; k + 2 * L <= count; k += 2 * L) {
+    Lanes<T, 1, N> x, y;
+    x.template load<beside>(b, k, L);
+    y.template load<beside>(b, k + L, L);
+    f.template substitute<2>({x.e[0], y.e[0]});
+    x.template store<beside>(d, k, L);
+    y.template store<beside>(d, k + L, L);
+  }
+  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid) ZELM_INLINE_LAMBDA {
     Lanes<T, 1, N> x;
-    x.template load<beside>(b, k, valid);
+    x.template load<beside>(b, k + more, valid);
     f.substitute(x.e[0]);
-    x.template store<beside>(d, k, valid);
+    x.template store<beside>(d, k + more, valid);
   });
 }
 
