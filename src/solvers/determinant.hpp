@@ -1,9 +1,10 @@
 // determinant.hpp: determinants of square matrices.
 //
-// Orders 3 to 6 have closed forms, cofactors along a row, without a pivot or a comparison; all others are eliminated in the caller's
-// scratch. Which kernel computes in extended precision and which in the element type, and in what order, is settled kernel by kernel
-// (the policies below). |det - exact| <= gamma(k) times the permanent of |A|, k the roundings on the way to one product: Higham,
-// Accuracy and Stability of Numerical Algorithms, 2nd ed., section 3.1; measured in tests/solvers/determinant_test.cpp.
+// Orders 3 to 6 have closed forms, cofactors along a row, without a pivot or a comparison; all others are eliminated in the
+// caller's scratch. Which kernel computes in extended precision and which in the element type, and in what order, is settled
+// kernel by kernel (the policies below). |det - exact| <= gamma(k) times the permanent of |A|, k the roundings on the way to
+// one product: Higham, Accuracy and Stability of Numerical Algorithms, 2nd ed., section 3.1; measured in
+// tests/solvers/determinant_test.cpp.
 #pragma once
 #include "frame/lanes.hpp"
 #include "solvers/determinant_kernels.hpp"
@@ -93,9 +94,9 @@ ZELM_INLINE void in_element_type(const A& a, typename A::T* dst, int count) {
 }
 
 /// Extended determinants of four float matrices without the x87 unit. In double precision |det - exact| <= gamma(k) times the
-/// permanent of |A|, which is at most the product of the rows' sums; k <= 20 roundings, and a fraction of one for the extended value.
-/// Where the whole interval rounds to one float, that is the float to which the extended value rounds. Sets that lane's bit; a zero
-/// never does, since its sign is not known. Six floats neither overflow nor underflow in double precision.
+/// permanent of |A|, which is at most the product of the rows' sums; k <= 20 roundings, and a fraction of one for the extended
+/// value. Where the whole interval rounds to one float, that is the float to which the extended value rounds. Sets that lane's
+/// bit; a zero never does, since its sign is not known. Six floats neither overflow nor underflow in double precision.
 template <int N>
 __attribute__((noinline)) int certain(const Pack<float> (&a)[N][N], Pack<float>& det) {
   using P = Pack<double>;

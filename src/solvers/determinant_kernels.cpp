@@ -20,9 +20,9 @@ Extended expanded(const Extended (&a)[3][3], double) {
          (a[2][1] * a[0][2] - a[0][1] * a[2][2]) * a[1][0];
 }
 
-/// Nothing that was loaded before is still known, and what is done before is not done later. The way of a number through memory in ten
-/// bytes, five cycles out and two in, takes longer than loading its factors and multiplying them anew; the compiler left alone would
-/// keep them all.
+/// Nothing that was loaded before is still known, and what is done before is not done later. The way of a number through memory
+/// in ten bytes, five cycles out and two in, takes longer than loading its factors and multiplying them anew; the compiler left
+/// alone would keep them all.
 ZELM_INLINE Extended settled(Extended x) {
   __asm__ volatile("" : "+t"(x) : : "memory");
   return x;

@@ -1,4 +1,5 @@
-// determinant_kernels.hpp: determinants of one contiguous matrix of fixed order in extended precision, rounded once, at the end.
+// determinant_kernels.hpp: determinants of one contiguous matrix of fixed order in extended precision, rounded once, at the
+// end.
 #pragma once
 #include "zelm_types.h"
 

@@ -1,5 +1,5 @@
-// elimination.hpp: elimination with partial pivoting by rows in the caller's scratch, for determinants and for the cofactors of the
-// adjugate. Rows stay where they are; their order is kept beside them. The scratch may lie at any address.
+// elimination.hpp: elimination with partial pivoting by rows in the caller's scratch, for determinants and for the cofactors of
+// the adjugate. Rows stay where they are; their order is kept beside them. The scratch may lie at any address.
 #pragma once
 #include <cmath>
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 namespace zelm::solvers {
 
-/// The smallest magnitude of a determinant or pivot of order n: 2 n^3 times the smallest normal number. The integer is one of 32
-/// bits that wraps from n = 1024 on, where the limit turns negative and nothing lies below it.
+/// The smallest magnitude of a determinant or pivot of order n: 2 n^3 times the smallest normal number. The integer is one of
+/// 32 bits that wraps from n = 1024 on, where the limit turns negative and nothing lies below it.
 template <class T>
 constexpr T smallest_determinant(int n) {
   const auto m = std::uint32_t(n);

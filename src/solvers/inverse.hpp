@@ -1,11 +1,11 @@
 // inverse.hpp: the inverse of square matrices. dst may be src, but for orders 2 and 7 upward.
 //
-// Orders 3 to 6 invert several objects at once, one in each lane: by cofactors, or, contiguous float matrices of orders 5 and 6, by
-// column pivoting down to a block of order 4. A block with a singular object is done again object by object. All other orders take
-// every cofactor from an elimination of its own (adjugate.cpp). Which kernel takes its reciprocals how, and which limit it sets for
-// a determinant, is settled kernel by kernel (the policies below); all limits are absolute.
-// The error of X = adj(A) / det(A) is bounded by that of the determinants, not by a residual: it is measured beside Eigen's in
-// tests/solvers/inverse_test.cpp. Cofactors: Horn and Johnson, Matrix Analysis, 2nd ed., sections 0.3 and 0.8.2.
+// Orders 3 to 6 invert several objects at once, one in each lane: by cofactors, or, contiguous float matrices of orders 5 and
+// 6, by column pivoting down to a block of order 4. A block with a singular object is done again object by object. All other
+// orders take every cofactor from an elimination of its own (inverse_adjugate.cpp). Which kernel takes its reciprocals how, and
+// which limit it sets for a determinant, is settled kernel by kernel (the policies below); all limits are absolute. The error
+// of adj(A) / det(A) is bounded by those of the determinants, not by a residual; tests/solvers/inverse_test.cpp derives the
+// bounds and measures them beside Eigen's. Cofactors: Horn and Johnson, Matrix Analysis, 2nd ed., sections 0.3 and 0.8.2.
 #pragma once
 #include "frame/lanes.hpp"
 #include "solvers/elimination.hpp"
@@ -168,7 +168,8 @@ struct ByPivoting {
   }
 
  private:
-  /// The pivot is the element of row k with the largest magnitude, the last of equals; but in order 5 the last column wins no tie.
+  /// The pivot is the element of row k with the largest magnitude, the last of equals; but in order 5 the last column wins no
+  /// tie.
   ZELM_INLINE void step(int k) {
     P here[N], best = abs(m.e[k][k]);
     ZELM_UNROLL for (int j = k + 1; j < N; ++j) {

@@ -1,6 +1,6 @@
-// inverse_adjugate.cpp: every cofactor by an elimination of its own, n^2 of them. A cofactor that vanishes comes out as the limit
-// instead of 0, so that a diagonal matrix gets an inverse with tiny elements off the diagonal; that is part of the contract, and an
-// inverse from one decomposition would not give it.
+// inverse_adjugate.cpp: every cofactor by an elimination of its own, n^2 of them. A cofactor that vanishes comes out as the
+// limit instead of 0, so that a diagonal matrix gets an inverse with tiny elements off the diagonal; that is part of the
+// contract, and an inverse from one decomposition would not give it.
 #include "solvers/inverse_adjugate.hpp"
 
 #include "solvers/elimination.hpp"

@@ -35,7 +35,8 @@ struct Term {
   bool minus;
 };
 
-/// The first positive term, and then every other one in its order: no sum begins with a change of sign, so that no zero gets one.
+/// The first positive term, and then every other one in its order: no sum begins with a change of sign, so that no zero gets
+/// one.
 template <int n>
 constexpr std::array<Term, n> positive_first(std::array<Term, n> terms) {
   int first = 0;
@@ -152,8 +153,8 @@ ZELM_INLINE void cofactor_row(const V* upper, const V* lower, V (&c)[N]) {
   for_constants<N>([&](auto j) ZELM_INLINE_LAMBDA { c[j] = sum_of<kCofactors<N, i, p, q>, N - 1 - j>(upper, lower); });
 }
 
-/// c[i][j] = (-1)^(i+j) times the minor of a without row i and column j. The two outermost rows on either side extend the minors
-/// of all rows beyond them; a row in the middle takes its cofactors from the minors above and below it.
+/// c[i][j] = (-1)^(i+j) times the minor of a without row i and column j. The two outermost rows on either side extend the
+/// minors of all rows beyond them; a row in the middle takes its cofactors from the minors above and below it.
 template <int N, class V>
 ZELM_INLINE void cofactors(const V (&a)[N][N], V (&c)[N][N]) {
   const LastRows<N, N - 2, V> last(a);

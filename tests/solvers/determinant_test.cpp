@@ -1,5 +1,5 @@
-// Determinants against cofactor expansions and eliminations in plain scalar code, bit for bit, in the precision and the order that
-// each kernel has; limits of the elimination; errors beside Eigen's.
+// Determinants against cofactor expansions and eliminations in plain scalar code, bit for bit, in the precision and the order
+// that each kernel has; limits of the elimination; errors beside Eigen's.
 #include <Eigen/LU>
 #include <cmath>
 #include <limits>
@@ -232,8 +232,8 @@ TEST(DetKnownAnswers, HalfwayCasesOfExtendedPrecision) {
 
 // Errors
 
-/// k roundings on the way to each product: |error| <= k u / (1 - k u) times the permanent of |A|, which is at most the product of the
-/// rows' sums.
+/// k roundings on the way to each product: |error| <= k u / (1 - k u) times the permanent of |A|, which is at most the product
+/// of the rows' sums.
 template <class T>
 void check_errors(const std::string& type, int n) {
   using M = Eigen::Matrix<T, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;

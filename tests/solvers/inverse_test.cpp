@@ -1,5 +1,5 @@
-// Inverses against plain scalar code, bit for bit: cofactors by either reciprocal, column pivoting, adjugates; statuses, limits and
-// what every failure leaves; errors beside Eigen's.
+// Inverses against plain scalar code, bit for bit: cofactors by either reciprocal, column pivoting, adjugates; statuses, limits
+// and what every failure leaves; errors beside Eigen's.
 #include <Eigen/LU>
 #include <bit>
 #include <cmath>
@@ -225,7 +225,8 @@ void check(const Function& f, int n, int count, const std::vector<T>& matrices, 
   EXPECT_EQ(difference(got, want, false), "") << scene.describe(road);
 }
 
-/// Mostly regular ones; with small whole numbers (equal magnitudes, singular matrices), NaNs, infinities, zero columns, scaled ones.
+/// Mostly regular ones; with small whole numbers (equal magnitudes, singular matrices), NaNs, infinities, zero columns, scaled
+/// ones.
 template <class T>
 std::vector<T> assorted(int n, int count, int odd, Random& random) {
   std::vector<T> all;
@@ -418,8 +419,8 @@ long double permanent(const Exact& a) {
 }
 
 /// |X - 1/A| against its bound. Closed forms: a cofactor, or det, has an error of at most gamma(k) times the permanent of its
-/// magnitudes. Adjugate: each elimination gives the determinant of a matrix changed by gamma(n) ||A||, and the second-order minors by
-/// which that changes a cofactor are those of order 2 of the inverse (Jacobi's identity): c n^3 u ||A|| ||1/A||^2.
+/// magnitudes. Adjugate: each elimination gives the determinant of a matrix changed by gamma(n) ||A||, and the second-order
+/// minors by which that changes a cofactor are those of order 2 of the inverse (Jacobi's identity): c n^3 u ||A|| ||1/A||^2.
 template <class T>
 Exact bound(const Exact& a, const Exact& inverse) {
   const int n = int(a.rows());
