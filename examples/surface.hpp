@@ -28,6 +28,13 @@ struct NormalEquations {
 
 NormalEquations normal_equations(const Grid& grid);
 
+struct Derivatives {  // of a fitted quadric at its cell's center, per metre
+  double x, y, xx, xy, yy;
+};
+
+/// From the solution of the cell's normal equations.
+Derivatives derivatives(CellSize size, const float* coefficients);
+
 struct Surface {         // of one cell; NaN where nothing was fitted
   float east, north;     // slope: rise per metre eastward and northward
   float mean_curvature;  // 1/m, for the normal that points up: above 0 in a hollow, below 0 on a ridge
