@@ -39,7 +39,8 @@ constexpr double kTolerance = sizeof(T) == 4 ? 1e-4 : 1e-10;
 template <class T, bool symmetric>
 void fill(const Array* at, int count, int n) {
   constexpr int E = sizeof(T);
-  std::vector<T> buffer(std::size_t(n * (3 * n + 5))), re(std::size_t(n)), im(re), z(std::size_t(n * n)), fresh(z);
+  const auto elements = [](int number) { return std::vector<T>(std::size_t(number)); };
+  std::vector<T> buffer = elements(n * (3 * n + 5)), re = elements(n), im = re, z = elements(n * n);
   T* const all = at[0].of<T>();
   fill_uniform(all, std::size_t(count) * n * n);
   for (int k = 0; k < count; ++k) {

@@ -179,6 +179,9 @@ Distance largest_distance(const NormalEquations& equations, const std::vector<fl
     largest = {std::max(largest.metres, metres), std::max(largest.share, share)};
   }
   return largest;
+Derivatives derivatives(CellSize size, const float* c) {
+  const double east = kReach * size.east, north = kReach * size.north;  // metres per unit of u and v
+  return {c[3] / east, c[4] / north, 2 * c[0] / (east * east), c[1] / (east * north), 2 * c[2] / (north * north)};
 }
 
 std::vector<Surface> surfaces(const Grid& grid, const NormalEquations& equations, const std::vector<float>& coefficients) {
@@ -187,12 +190,9 @@ std::vector<Surface> surfaces(const Grid& grid, const NormalEquations& equations
   std::size_t cell = 0;
   for (int row = 0; row < grid.rows; ++row) {
     const CellSize size = grid.cell_size(row);
-    const double east = kReach * size.east, north = kReach * size.north;  // metres per unit of u and v
     for (int column = 0; column < grid.columns; ++column, ++cell) {
       if (!equations.fitted[cell]) continue;
-      const float* const c = &coefficients[cell * kTerms];
-      const double zx = c[3] / east, zy = c[4] / north;
-      const double zxx = 2 * c[0] / (east * east), zxy = c[1] / (east * north), zyy = 2 * c[2] / (north * north);
+      const auto [zx, zy, zxx, zxy, zyy] = derivatives(size, &coefficients[cell * kTerms]);
       // do Carmo, Differential Geometry of Curves and Surfaces, sec. 3-3, for the graph of a function
       const double mean_curvature =
           ((1 + zy * zy) * zxx - 2 * zx * zy * zxy + (1 + zx * zx) * zyy) / (2 * std::pow(1 + zx * zx + zy * zy, 1.5));

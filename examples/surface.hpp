@@ -49,6 +49,12 @@ struct Distance {
   double metres, share;
 };
 Distance largest_distance(const NormalEquations& equations, const std::vector<float>& x, const std::vector<float>& y);
+struct Derivatives {  // of a fitted quadric at its cell's center, per metre
+  double x, y, xx, xy, yy;
+};
+
+/// From the solution of the cell's normal equations.
+Derivatives derivatives(CellSize size, const float* coefficients);
 
 struct Surface {         // of one cell; NaN where nothing was fitted
   float east, north;     // slope: rise per metre eastward and northward

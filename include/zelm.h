@@ -1080,53 +1080,83 @@ ZelStatus zelmEigenValuesGetBufSize_64f(int widthHeight, int* pSize);
 
 /* ---- EigenValuesSym ---- */
 
-/** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A, n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer, float* pDst,
     int widthHeight);
 
-/** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A, n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer, float* pDst,
     int widthHeight);
 
-/** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A, n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer, double* pDst,
     int widthHeight);
 
-/** eigenvalues of the symmetric A; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A, n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer, double* pDst,
     int widthHeight);
 
-/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k], n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
     float* pDst, int widthHeight, int count);
 
-/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k], n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     void* pBuffer, float* pDst, int widthHeight, int count);
 
-/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k], n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
     float* pDst, int widthHeight, int count);
 
-/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k], n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
     double* pDst, int widthHeight, int count);
 
-/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k], n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     void* pBuffer, double* pDst, int widthHeight, int count);
 
-/** eigenvalues of the symmetric A[k]; square matrices of order widthHeight. May return zelStsSingular,
-    zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k], n for every object, the largest first; of order 2 the one of larger magnitude.
+    Elements off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular:
+    the product of the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is
+    written), and an array ends with that object; square matrices of order n = widthHeight; pBuffer n * n elements
+    of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesSym_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
     double* pDst, int widthHeight, int count);
 
@@ -1298,58 +1328,78 @@ ZelStatus zelmEigenValuesVectorsRight_ma_64f_P(const double* const* ppSrc, int s
 
 /* ---- EigenValuesVectorsSym ---- */
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to value
+    j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer,
     float* pDstVectors, int dstStride1, int dstStride2, float* pDstValues, int widthHeight);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to value
+    j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer,
     float* const* ppDstVectors, int dstByteShift, float* pDstValues, int widthHeight);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to value
+    j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer,
     double* pDstVectors, int dstStride1, int dstStride2, double* pDstValues, int widthHeight);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to value
+    j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer,
     double* const* ppDstVectors, int dstByteShift, double* pDstValues, int widthHeight);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k] as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to
+    value j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
     void* pBuffer, float* pDstVectors, int dstStride0, int dstStride1, int dstStride2, float* pDstValues,
     int widthHeight, int count);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k] as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to
+    value j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1,
     int srcStride2, void* pBuffer, float* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2,
     float* pDstValues, int widthHeight, int count);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k] as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to
+    value j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
     void* pBuffer, float* const* ppDstVectors, int dstByteShift, int dstStride0, float* pDstValues, int widthHeight,
     int count);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k] as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to
+    value j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
     void* pBuffer, double* pDstVectors, int dstStride0, int dstStride1, int dstStride2, double* pDstValues,
     int widthHeight, int count);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k] as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to
+    value j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1,
     int srcStride2, void* pBuffer, double* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2,
     double* pDstValues, int widthHeight, int count);
 
-/** eigenvalues and eigenvectors (columns) of the symmetric A[k]; square matrices of order widthHeight. May return
-    zelStsSingular, zelStsNoConvergence. */
+/** eigenvalues of the symmetric A[k] as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to
+    value j. zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same
+    (order 2: nothing is written), and an array ends with that object; square matrices of order n = widthHeight;
+    pBuffer n * n elements of the matrices' type. May return zelStsSingular, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsSym_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
     void* pBuffer, double* const* ppDstVectors, int dstByteShift, int dstStride0, double* pDstValues, int widthHeight,
     int count);

@@ -57,6 +57,8 @@ inline constexpr std::string_view kSolveShapes = "A of order widthHeight; b and 
 
 inline constexpr std::string_view kFixedArrays = "strides of any size and sign; a count below 1 does nothing; D[k] may be A[k]";
 
+inline constexpr std::string_view kSymmetricBuffer =
+    "square matrices of order n = widthHeight; pBuffer n * n elements of the matrices' type";
 inline constexpr std::string_view kVectorBuffer =
     "square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives";
 inline constexpr std::string_view kVectorStatuses = "zelStsFailure zelStsNoConvergence";
@@ -236,12 +238,19 @@ inline constexpr Row kRows[] = {
 
     // Eigenproblems
     {"EigenValuesSym", "m ma", "src pBuffer pDst widthHeight count", "c*n*n+c*n",
-     "1001/1001 1001/1001 1001 1001/1001 1001/1001 1001", "eigen", "symmetric::values", "eigenvalues of the symmetric $a",
-     kSquareShapes, "zelStsSingular zelStsNoConvergence", "n*n*E"},
+     "1001/1001 1001/1001 1001 1001/1001 1001/1001 1001", "eigen", "symmetric::values",
+     "eigenvalues of the symmetric $a, n for every object, the largest first; of order 2 the one of larger magnitude. Elements "
+     "off the diagonal count as zero from twice the epsilon down: scale matrices to about 1. zelStsSingular: the product of "
+     "the values is at most epsilon; they are there all the same but not sorted (order 2: nothing is written), and an array "
+     "ends with that object",
+     kSymmetricBuffer, "zelStsSingular zelStsNoConvergence", "n*n*E"},
     {"EigenValuesVectorsSym", "m ma", "src pBuffer dstVectors pDstValues widthHeight count", "2*c*n*n+c*n",
      "701/701 701/701 701 701/701 701/701 701", "eigen", "symmetric::vectors",
-     "eigenvalues and eigenvectors (columns) of the symmetric $a", kSquareShapes, "zelStsSingular zelStsNoConvergence",
-     "n*n*E"},
+     "eigenvalues of the symmetric $a as from zelmEigenValuesSym, and orthonormal eigenvectors: column j belongs to value j. "
+     "zelStsSingular: the product of the values is at most epsilon; values and vectors are there all the same (order 2: "
+     "nothing "
+     "is written), and an array ends with that object",
+     kSymmetricBuffer, "zelStsSingular zelStsNoConvergence", "n*n*E"},
     {"EigenValues", "m ma", "src pDstValuesRe pDstValuesIm widthHeight count pBuffer", "c*n*n+c*n",
      "251/251 251/251 251 251/251 251/251 251", "eigen", "general::values",
      "eigenvalues of the general $a: real and imaginary parts, n each for every object, unsorted. A complex pair takes two "

@@ -7,15 +7,8 @@
 #include <algorithm>
 
 #include "eigen/general_cores.hpp"
-#include "frame/views.hpp"
 
 namespace zelm::eigen::general {
-
-template <class Object, class T>
-ZELM_INLINE void copy_in(const Object& source, T* buffer, int n) {
-  for (int i = 0; i < n; ++i)
-    for (int j = 0; j < n; ++j) store(buffer + std::ptrdiff_t(i) * n + j, source.element(i, j));
-}
 
 /// dst(i, j) = rows(j, i).
 template <class Object, class T>
@@ -28,16 +21,12 @@ ZELM_INLINE void copy_out(const T* rows, const Object& dst, int n) {
 ///   done(k, l, block) takes object k out of lane l; false ends the call
 template <int order, bool vectors, class T, class A, class Done>
 ZELM_INLINE int solve_blocks(const A& a, int n, int count, Done done) {
-  constexpr int L = kTogether<T>;
   if constexpr (order > 0) n = order;
   Block<T, order, vectors> block;
   int k = 0;
   while (count - k > 1) {
-    const int valid = std::min(count - k, L);
-    typename A::Object objects[L];
-    a.objects(k, valid, objects);
-    for (int i = 0; i < n; ++i)
-      for (int j = 0; j < n; ++j) block.h[i * n + j] = Many<T, L>::gather([&](int l) { return objects[l].at(i, j); });
+    const int valid = std::min(count - k, kTogether<T>);
+    copy_in(a, k, valid, block.h, n);
     if (!solve_together(block, n)) break;
     for (int l = 0; l < valid; ++l, ++k)
       if (!done(k, l, block)) return count;

@@ -2,6 +2,8 @@
 
 #include "eigen/general_vectors.hpp"
 
+const int iPivot[4][4] = {{0, 1, 2, 3}, {1, 0, 3, 2}, {2, 3, 0, 1}, {3, 2, 1, 0}};
+
 namespace zelm::eigen::general {
 namespace {
 

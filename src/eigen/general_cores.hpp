@@ -1,7 +1,7 @@
 // general_cores.hpp: eigenvalues and eigenvectors of one general real matrix that lies in a buffer. Compiled once, whatever
 // memory the matrices come from.
 #pragma once
-#include "simd/many.hpp"
+#include "eigen/shared.hpp"
 #include "zelm_types.h"
 
 namespace zelm::eigen::general {
@@ -27,11 +27,7 @@ Outcome vectors_of_one(T* buffer, T* re, T* im, int n, int sides);
 template <class T>
 Outcome vectors_of_form(T* buffer, const T* re, const T* im, int n, int sides);
 
-/// Matrices that are computed together, one in each lane.
-template <class T>
-inline constexpr int kTogether = sizeof(T) == 4 ? 8 : 4;
-inline constexpr int kLargestTogether = 16;  // order
-
+/// One matrix in each lane. Order 0 stands for any up to kLargestTogether.
 template <class T, int order, bool vectors>
 struct Block {
   static constexpr int largest = order ? order : kLargestTogether;

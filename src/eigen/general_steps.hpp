@@ -9,7 +9,7 @@
 #include <cmath>
 #include <limits>
 
-#include "simd/many.hpp"
+#include "eigen/shared.hpp"
 #include "zelm_types.h"
 
 namespace zelm::eigen::general {
@@ -183,22 +183,6 @@ ZELM_INLINE void rotate(S* to_x, S* to_y, const S& cs, const S& sn, const MaskOf
   store(to_x, select(where, cs * x + sn * y, x));
   store(to_y, select(where, cs * y - sn * x, y));
 }
-
-/// Where something begins, in each lane.
-template <class S, int order>
-struct Starts {
-  S begin[order];
-  ZELM_INLINE void note(int i, const S& here) { begin[i] = here; }
-  ZELM_INLINE S at(int i) const { return begin[i]; }
-};
-template <Number S, int order>
-struct Starts<S, order> {
-  int begin;
-  ZELM_INLINE void note(int i, bool here) {
-    if (here) begin = i;
-  }
-  ZELM_INLINE bool at(int i) const { return i == begin; }
-};
 
 /// The Schur form of a Hessenberg matrix, or, without `vectors`, no more of it than its eigenvalues take. S: a number, or Many,
 /// whose lanes share the rows that are being worked on and wait for each other where one has less to do.

@@ -5,6 +5,9 @@
 #include "eigen/general_cores.hpp"
 #include "eigen/general_steps.hpp"
 
+/// Where pivot, its column's, its row's and the opposite element of a 2 x 2 matrix stand, for each place of the pivot.
+extern "C" const int iPivot[4][4];
+
 namespace zelm::eigen::general {
 
 template <class T>
@@ -121,7 +124,6 @@ struct Substitution {
 
   /// Elimination with complete pivoting.
   ZELM_INLINE bool solve_two(int j) {
-    static constexpr int iPivot[4][4] = {{0, 1, 2, 3}, {1, 0, 3, 2}, {2, 3, 0, 1}, {3, 2, 1, 0}};
     const N c[4] = {diagonal(j - 1), number(t.get(j, j - 1)), number(t.get(j - 1, j)), diagonal(j)};
     int m = 0;
     for (int e = 1; e < 4; ++e)

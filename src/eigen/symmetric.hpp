@@ -65,12 +65,6 @@ ZelStatus solve_pair(const Object& source, T* values, const Rules& rules, Put pu
   return zelStsOk;
 }
 
-template <class Object, class T>
-void copy_in(const Object& source, T* buffer, int n) {
-  for (int i = 0; i < n; ++i)
-    for (int j = 0; j < n; ++j) store(buffer + std::ptrdiff_t(i) * n + j, source.element(i, j));
-}
-
 template <class Source, class T>
 ZelStatus values_of(const Source& source, T* buffer, T* values, int n, const Rules& rules) {
   if (n == 1) return store(values, source.element(0, 0)), zelStsOk;
@@ -97,20 +91,14 @@ __attribute__((noinline)) int solve_blocks(A a, D dst, T* values, int n, int cou
   int k = 0;
   while (count - k > 1) {
     const int valid = std::min(count - k, L);
-    {
-      typename A::Object objects[L];
-      a.objects(k, valid, objects);
-      for (int i = 0; i < n; ++i)
-        for (int j = 0; j < n; ++j) block.a[i * n + j] = Many<T, L>::gather([&](int l) { return objects[l].at(i, j); });
-    }
+    copy_in(a, k, valid, block.a, n);
     if (!solve_together(block, n, rules)) return k;
-    const auto lane = [](const Many<T, L>& x, int l) { return load(reinterpret_cast<const T*>(&x) + l); };
     for (int l = 0; l < valid; ++l) {
-      for (int i = 0; i < n; ++i) store(values + std::ptrdiff_t(k + l) * n + i, lane(block.values[i], l));
+      for (int i = 0; i < n; ++i) store(values + std::ptrdiff_t(k + l) * n + i, load_lane(block.values + i, l));
       if constexpr (vectors) {
         const auto z = dst.object(k + l);
         for (int i = 0; i < n; ++i)
-          for (int j = 0; j < n; ++j) store(z.at(i, j), lane(block.z[j * n + i], l));
+          for (int j = 0; j < n; ++j) store(z.at(i, j), load_lane(block.z + j * n + i, l));
       }
     }
     k += valid;

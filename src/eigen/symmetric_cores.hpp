@@ -2,7 +2,6 @@
 // once, whatever memory the matrices come from.
 #pragma once
 #include "eigen/symmetric_steps.hpp"
-#include "frame/views.hpp"
 #include "zelm_types.h"
 
 namespace zelm::eigen::symmetric {
@@ -21,11 +20,6 @@ template <class T>
 ZelStatus values_of_one(T* buffer, T* values, int n, const Rules& rules);
 template <class T, class Object>
 ZelStatus vectors_of_one(T* buffer, Object z, T* values, int n, const Rules& rules);
-
-/// Matrices that are computed together. More of them hide the latency of divisions and roots, fewer wait less for each other.
-template <class T>
-inline constexpr int kTogether = sizeof(T) == 4 ? 8 : 4;
-inline constexpr int kLargestTogether = 16;  // order
 
 /// One matrix in each lane. Order 0 stands for any up to kLargestTogether.
 template <class T, int order, bool vectors>

@@ -10,7 +10,7 @@
 #pragma once
 #include <limits>
 
-#include "simd/many.hpp"
+#include "eigen/shared.hpp"
 
 namespace zelm::eigen::symmetric {
 
@@ -103,22 +103,6 @@ ZELM_INLINE void reduce(Square<S> a, S* u, int n, const Rules& rules, const Z& z
     }
   }
 }
-
-/// Where the block that a sweep runs over begins, in each lane.
-template <class V, int order>
-struct Starts {
-  V begin[order];
-  ZELM_INLINE void note(int i, const V& here) { begin[i] = here; }
-  ZELM_INLINE V at(int i) const { return begin[i]; }
-};
-template <Number V, int order>
-struct Starts<V, order> {
-  int begin;
-  ZELM_INLINE void note(int i, bool here) {
-    if (here) begin = i;
-  }
-  ZELM_INLINE bool at(int i) const { return i == begin; }
-};
 
 /// QL sweeps on the diagonal d[0 .. n-1] and the elements e[1 .. n-1] below it, until all of the latter count as zero; false if
 /// that takes too many. `product` is multiplied by every d[m] at which a search stops, m > 0; stop(m, where) hears of it.
