@@ -88,7 +88,7 @@ bool one(const char* operation, int n, int sources, int in_floats, int out_float
 const bool all =
     transform("AffineTransform_m4v3a", 3, 4, .95, zelmAffineTransform_m4v3a_32f) &&
     transform("AffineTransform_m4v4a", 4, 4, .95, zelmAffineTransform_m4v4a_32f) &&
-    transform("AffineTransformCoord_m4v2a", 2, 2, .75, zelmAffineTransformCoord_m4v2a_32f) &&
+    transform("AffineTransformCoord_m4v2a", 2, 2, 1.05, zelmAffineTransformCoord_m4v2a_32f) &&
     transform("AffineTransformCoord_m4v3a", 3, 3, .75, zelmAffineTransformCoord_m4v3a_32f) &&
     transform("AffineTransformNormal_m4v3a", 3, 3, .95, zelmAffineTransformNormal_m4v3a_32f) &&
     screen("Project_m4v3a", zelmProject_m4v3a_32f) && homogeneous() &&

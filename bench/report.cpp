@@ -74,7 +74,7 @@ Report::Report(const std::string& json_file)
   std::printf("working sets, all arrays of a call together: L1 %s, LLC %s, memory %s\n", bytes(s.set[int(Set::l1)]).c_str(),
               bytes(s.set[int(Set::llc)]).c_str(), bytes(s.set[int(Set::memory)]).c_str());
   std::printf(
-      "rivals: Eigen's fixed-size types over Map, plain loops; compiled by clang %s with -O2, for SSE4.2 with\n"
+      "rivals: Eigen's fixed-size types over Map, GLM, plain loops; compiled by clang %s with -O2, for SSE4.2 with\n"
       "  -msse4.2, native with -march=native; all on tight arrays in standard layout, also beside _L and _P\n",
       __clang_version__);
   std::printf(

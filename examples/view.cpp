@@ -57,7 +57,8 @@ void View::place_vertices(const Grid& grid) {
     if (!std::isnan(h)) low = std::min(low, h), high = std::max(high, h);
   if (!(low <= high)) throw std::runtime_error("a grid without data cannot be viewed");
   const double width = (columns_ - 1) * east_, depth = (rows_ - 1) * north_, extent = std::max({width, depth, east_});
-  relief_ = std::max(1.0, std::round(0.1 * extent / std::max(double(high - low), 1e-3 * extent)));
+  // The relief a tenth of the ground's extent, in a whole number and within reason.
+  relief_ = high > low ? std::clamp(std::round(0.1 * extent / double(high - low)), 1.0, 20.0) : 1;
   base_ = -0.08 * extent;
   radius_ = std::hypot(width, depth) / 2 + 0.1 * extent;
   vertices_.reserve(3 * (grid.cells() + 4 * std::size_t(columns_ + 2 * rows_)));
@@ -108,7 +109,7 @@ void View::connect(const Grid& grid) {
 void View::aim() {
   constexpr float kUp[3] = {0, 0, 1};
   const float angle = 32 * std::numbers::pi_v<float> / 180, turn = -0.32f;
-  const float at[3] = {0, float(-0.16 * radius_), 0};  // the near half is the larger one
+  const float at[3] = {0, float(-0.24 * radius_), 0};  // the near half is the larger one
   float transform[16];
   const auto all_inside = [&](double distance) {
     const float away = float(distance * std::cos(angle));

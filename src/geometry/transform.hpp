@@ -111,10 +111,17 @@ bool streams(const Run<const float, N>& s, const Run<float, M>& d, std::ptrdiff_
   return d.packed() && worth_streaming(d.first, count * M) && apart(s, d, count);
 }
 
+/// What is read two pages further on: the processor's own prefetchers stop at the end of a page, and looking up the next one takes as
+/// long as reading from it. It need not be there.
+ZELM_INLINE void fetch_ahead(const float* p) { _mm_prefetch(reinterpret_cast<const char*>(p) + 8192, _MM_HINT_T0); }
+
 /// Results of 4 elements fill a register each: vector after vector, all columns at once.
 template <class Kind, bool streamed>
 __attribute__((noinline)) void by_vector(Rows m, Run<const float, Kind::in> s, Run<float, 4> d, std::ptrdiff_t count) {
-  ZELM_AS_IT_STANDS for (std::ptrdiff_t k = 0; k < count; ++k) put<streamed>(times<Kind>(s.at(k), m.of), d.at(k));
+  ZELM_AS_IT_STANDS for (std::ptrdiff_t k = 0; k < count; ++k) {
+    if constexpr (streamed) fetch_ahead(s.at(k));
+    put<streamed>(times<Kind>(s.at(k), m.of), d.at(k));
+  }
   if constexpr (streamed) _mm_sfence();
 }
 
@@ -128,6 +135,7 @@ __attribute__((noinline)) void by_aligned_vector(Rows m, Run<const float, 4> s, 
   const P xz_left = low_halves(m.of[0], m.of[2]), xz_right = high_halves(m.of[0], m.of[2]);
   const P yw_left = low_halves(m.of[1], m.of[3]), yw_right = high_halves(m.of[1], m.of[3]);
   ZELM_AS_IT_STANDS for (std::ptrdiff_t k = 0; k < count; ++k) {
+    if constexpr (streamed) fetch_ahead(s.at(k));
     const P xz = P::load_even_twice(s.at(k)), yw = P::load_odd_twice(s.at(k));
     const P left = xz_left * xz + yw_left * yw, right = xz_right * xz + yw_right * yw;
     put<streamed>(low_halves(left, right) + high_halves(left, right), d.at(k));
@@ -181,6 +189,7 @@ __attribute__((noinline)) int by_four(const Body& body, Run<const float, N> s, R
   const auto block = [&](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
     P v[N], r[N];
     constexpr bool full = !std::is_same_v<decltype(valid), int>;
+    if constexpr (streamed) fetch_ahead(s.at(k));
     if constexpr (packed && full) packed_to_lanes(v, s.first + k * N);
     else rows_to_lanes(v, [&](int l) { return s.at(k + (l < valid ? l : valid - 1)); });
     bad |= held(v, r);
