@@ -17,8 +17,8 @@ build: ## both libraries, for x86-64 and i386
 demo: ## fits the terrain of a real elevation grid
 	@tools/setup.sh build demo
 	cmake --preset x86_64 && cmake --build --preset x86_64 -j $(JOBS) --target terrain
-	build/x86_64/bin/terrain -o build/terrain.png --view build/view.png examples/data/jacksboro.asc
-	build/x86_64/bin/terrain -o build/terrain.png --curvature build/curvature.png examples/data/jacksboro.asc
+	build/x86_64/bin/terrain -o build/terrain.png --view build/view.png --curvature build/curvature.png \
+	  examples/data/jacksboro.asc
 
 test: ## all tests on both builds, and under the sanitizers
 	@tools/setup.sh build test demo

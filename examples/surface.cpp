@@ -179,6 +179,8 @@ Distance largest_distance(const NormalEquations& equations, const std::vector<fl
     largest = {std::max(largest.metres, metres), std::max(largest.share, share)};
   }
   return largest;
+}
+
 Derivatives derivatives(CellSize size, const float* c) {
   const double east = kReach * size.east, north = kReach * size.north;  // metres per unit of u and v
   return {c[3] / east, c[4] / north, 2 * c[0] / (east * east), c[1] / (east * north), 2 * c[2] / (north * north)};

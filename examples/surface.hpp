@@ -49,6 +49,7 @@ struct Distance {
   double metres, share;
 };
 Distance largest_distance(const NormalEquations& equations, const std::vector<float>& x, const std::vector<float>& y);
+
 struct Derivatives {  // of a fitted quadric at its cell's center, per metre
   double x, y, xx, xy, yy;
 };

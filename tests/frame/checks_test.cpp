@@ -129,14 +129,11 @@ TEST(Checks, EveryBadArgumentAloneAndInPairs) {
       values[a] = good_a;
     }
     ASSERT_TRUE(arguments.untouched()) << f.name;
-    const ZelStatus accepted = call.call(values.data());  // the good arguments are good, and would have been written to
+    const ZelStatus accepted = call.call(values.data());  // the good arguments are good, and were written to
     ASSERT_TRUE(accepted == zelStsOk || f.merges_status()) << f.name << " " << accepted;
     if (accepted == zelStsOk) {
       ASSERT_FALSE(arguments.untouched()) << f.name;
     }
-    const ZelStatus accepted = call.call(values.data());  // the good arguments are good, and were written to
-    ASSERT_TRUE(accepted == zelStsOk || accepted == zelStsSingular) << f.name << " " << accepted;
-    if (accepted == zelStsOk) ASSERT_FALSE(arguments.untouched()) << f.name;
   }
   EXPECT_GT(functions, 200);
 }
