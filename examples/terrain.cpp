@@ -337,78 +337,80 @@ void print_place(const View& view, const std::string& pixel) {
   if (!place) throw std::runtime_error("pixel " + pixel + " shows no terrain");
   std::printf("Pixel %d,%d: column %.2f, row %.2f of the grid, %.1f m high; %.2g m from the triangle that the pixel shows\n", x,
               y, place->column, place->row, place->height, std::abs(place->error));
-  void draw_curvature(const std::string& path, const Grid& grid, const NormalEquations& equations,
-                      const std::vector<float>& coefficients) {
-    const Curvatures curvatures = principal_curvatures(grid, equations, coefficients);
-    const Picture picture = draw_forms(grid, curvatures.bends);
-    picture.save_png(path);
-    std::printf(
-        "Principal curvatures: %s, %d x %d pixels. All cells in two calls, eigenvalues of order 2 in %.1f ms,\n"
-        "values and vectors of order 3 in %.1f ms; the two differ by at most %.1e of the largest curvature.\n",
-        path.c_str(), picture.width(), picture.height(), curvatures.plane_ms, curvatures.space_ms, curvatures.disagreement);
+}
+
+void draw_curvature(const std::string& path, const Grid& grid, const NormalEquations& equations,
+                    const std::vector<float>& coefficients) {
+  const Curvatures curvatures = principal_curvatures(grid, equations, coefficients);
+  const Picture picture = draw_forms(grid, curvatures.bends);
+  picture.save_png(path);
+  std::printf(
+      "Principal curvatures: %s, %d x %d pixels. All cells in two calls, eigenvalues of order 2 in %.1f ms,\n"
+      "values and vectors of order 3 in %.1f ms; the two differ by at most %.1e of the largest curvature.\n",
+      path.c_str(), picture.width(), picture.height(), curvatures.plane_ms, curvatures.space_ms, curvatures.disagreement);
+}
+
+void run(const Options& options) {
+  const Progress progress;
+  progress.show("Reading " + options.grid);
+  const Grid grid = read_grid(options.grid);
+  const CellSize cell = grid.cell_size(grid.rows / 2);
+  NormalEquations equations;
+  progress.show("Setting up the normal equations");
+  const double set_up = milliseconds([&] { equations = normal_equations(grid); });
+  const auto fitted = std::count(equations.fitted.begin(), equations.fitted.end(), true);
+  progress.show("");
+  std::printf("%s: %d x %d cells of %.1f m x %.1f m, %td of them with data enough to fit\n",
+              std::filesystem::path(options.grid).filename().c_str(), grid.columns, grid.rows, cell.east, cell.north, fitted);
+  const Systems systems(options.method, grid, equations);
+  std::printf("%zu systems of %d equations; normal equations set up in %.1f ms by one thread\n", grid.cells(), systems.rows,
+              set_up);
+  std::fflush(stdout);
+
+  const int all = zelGetNumThreads();
+  Zelm zelm(systems);
+  const std::unique_ptr<Rival> rival = rival_of(systems);
+  std::vector<Times> times;
+  double residual = 0;
+  for (const int threads : {1, all}) {
+    if (!times.empty() && threads == 1) break;
+    times.push_back(time_with(threads, zelm, *rival, options.repeat, progress));
+    if (options.method == Method::lu) residual = std::max(residual, zelm.check_residuals());
+  }
+  progress.show("");
+  print_times(times, grid.cells());
+  std::printf("Time of a call on all cells (median of %d) and millions of matrices per second.\n", options.repeat);
+  constexpr const char* kSolvers[] = {"PartialPivLU", "LLT", "HouseholderQR"};
+  std::printf("Eigen %d.%d.%d: %s<Matrix<float, %d, %d>>, compiled with %s.\n", EIGEN_WORLD_VERSION, EIGEN_MAJOR_VERSION,
+              EIGEN_MINOR_VERSION, kSolvers[int(options.method)], systems.rows, kTerms, TERRAIN_FLAGS);
+  if (options.method == Method::lu) {
+    std::printf("All residuals keep their bound; the largest is %.2f of it.\n", residual);
+  } else {
+    progress.show("Solving by LU");
+    const Systems normal(Method::lu, grid, equations);
+    Zelm lu(normal);
+    lu.decompose();
+    lu.solve();
+    const Distance d = largest_distance(equations, zelm.solutions(), lu.solutions());
+    progress.show("");
+    std::printf("The same surface as by LU: no coefficients are further apart than %.2g m, nor than %.2g of their bound.\n",
+                d.metres, d.share);
   }
 
-  void run(const Options& options) {
-    const Progress progress;
-    progress.show("Reading " + options.grid);
-    const Grid grid = read_grid(options.grid);
-    const CellSize cell = grid.cell_size(grid.rows / 2);
-    NormalEquations equations;
-    progress.show("Setting up the normal equations");
-    const double set_up = milliseconds([&] { equations = normal_equations(grid); });
-    const auto fitted = std::count(equations.fitted.begin(), equations.fitted.end(), true);
-    progress.show("");
-    std::printf("%s: %d x %d cells of %.1f m x %.1f m, %td of them with data enough to fit\n",
-                std::filesystem::path(options.grid).filename().c_str(), grid.columns, grid.rows, cell.east, cell.north, fitted);
-    const Systems systems(options.method, grid, equations);
-    std::printf("%zu systems of %d equations; normal equations set up in %.1f ms by one thread\n", grid.cells(), systems.rows,
-                set_up);
-    std::fflush(stdout);
-
-    const int all = zelGetNumThreads();
-    Zelm zelm(systems);
-    const std::unique_ptr<Rival> rival = rival_of(systems);
-    std::vector<Times> times;
-    double residual = 0;
-    for (const int threads : {1, all}) {
-      if (!times.empty() && threads == 1) break;
-      times.push_back(time_with(threads, zelm, *rival, options.repeat, progress));
-      if (options.method == Method::lu) residual = std::max(residual, zelm.check_residuals());
-    }
-    progress.show("");
-    print_times(times, grid.cells());
-    std::printf("Time of a call on all cells (median of %d) and millions of matrices per second.\n", options.repeat);
-    constexpr const char* kSolvers[] = {"PartialPivLU", "LLT", "HouseholderQR"};
-    std::printf("Eigen %d.%d.%d: %s<Matrix<float, %d, %d>>, compiled with %s.\n", EIGEN_WORLD_VERSION, EIGEN_MAJOR_VERSION,
-                EIGEN_MINOR_VERSION, kSolvers[int(options.method)], systems.rows, kTerms, TERRAIN_FLAGS);
-    if (options.method == Method::lu) {
-      std::printf("All residuals keep their bound; the largest is %.2f of it.\n", residual);
-    } else {
-      progress.show("Solving by LU");
-      const Systems normal(Method::lu, grid, equations);
-      Zelm lu(normal);
-      lu.decompose();
-      lu.solve();
-      const Distance d = largest_distance(equations, zelm.solutions(), lu.solutions());
-      progress.show("");
-      std::printf("The same surface as by LU: no coefficients are further apart than %.2g m, nor than %.2g of their bound.\n",
-                  d.metres, d.share);
-    }
-
-    progress.show("Drawing " + options.picture);
-    const std::vector<Surface> fits = surfaces(grid, equations, zelm.solutions());
-    const Picture picture = draw_maps(grid, fits);
-    picture.save_png(options.picture);
-    progress.show("Drawing " + options.view);
-    const View view(grid, fits, 900);
-    view.picture().save_png(options.view);
-    progress.show("");
-    std::printf("Slope and mean curvature: %s, %d x %d pixels\n", options.picture.c_str(), picture.width(), picture.height());
-    std::printf("Perspective, heights times %g: %s; a call transformed its %zu vertices in %.2f ms\n", view.relief(),
-                options.view.c_str(), view.vertices(), view.milliseconds());
-    if (!options.pick.empty()) print_place(view, options.pick);
-    if (!options.curvature.empty()) draw_curvature(options.curvature, grid, equations, zelm.solutions());
-  }
+  progress.show("Drawing " + options.picture);
+  const std::vector<Surface> fits = surfaces(grid, equations, zelm.solutions());
+  const Picture picture = draw_maps(grid, fits);
+  picture.save_png(options.picture);
+  progress.show("Drawing " + options.view);
+  const View view(grid, fits, 900);
+  view.picture().save_png(options.view);
+  progress.show("");
+  std::printf("Slope and mean curvature: %s, %d x %d pixels\n", options.picture.c_str(), picture.width(), picture.height());
+  std::printf("Perspective, heights times %g: %s; a call transformed its %zu vertices in %.2f ms\n", view.relief(),
+              options.view.c_str(), view.vertices(), view.milliseconds());
+  if (!options.pick.empty()) print_place(view, options.pick);
+  if (!options.curvature.empty()) draw_curvature(options.curvature, grid, equations, zelm.solutions());
+}
 
 }  // namespace
 }  // namespace terrain

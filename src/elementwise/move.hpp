@@ -125,9 +125,8 @@ void copy_any(S s, D d, int rows, int columns, std::ptrdiff_t first, std::ptrdif
   if constexpr (S::Object::plain && D::Object::plain) {
     constexpr int kLong = 256 / sizeof(T);  // where the call costs less than it saves
     if (columns > kLong) {
-      const auto copy_row = [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
-        copy_run(from.at(i, 0), to.at(i, 0), columns);
-      };
+      const auto copy_row = [=](const auto& from, const auto& to, int i)
+                                ZELM_INLINE_LAMBDA { copy_run(from.at(i, 0), to.at(i, 0), columns); };
       if (rows == 1) copy_rows<true>(s, d, rows, first, count, copy_row);
       else copy_rows<false>(s, d, rows, first, count, copy_row);
     } else {

@@ -7,8 +7,8 @@
 
 #include "frame/interpose.hpp"
 #include "geometry/fixed.hpp"
-#include "solvers/inverse_kernels.hpp"
 #include "internals.hpp"
+#include "solvers/inverse_kernels.hpp"
 #include "zelm.h"
 
 extern "C" {
