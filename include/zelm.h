@@ -551,155 +551,165 @@ ZelStatus zelmBaryCentric_v4_32f(const float* pSrc1, const float* pSrc2, const f
 
 /* ---- CholeskyBackSubst ---- */
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
     const float* pSrc2, int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2,
     int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1,
     int src1Stride2, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst,
     int dstByteShift, int dstStride2, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
     int dstStride0, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
     const double* pSrc2, int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2,
     int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1,
     int src1Stride2, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst,
     int dstByteShift, int dstStride2, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
     int dstStride0, int widthHeight, int count);
 
-/** solves A x = b from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order widthHeight;
+    b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, const float* pSrc2,
     int src2Stride2, float* pDst, int dstStride2, int widthHeight);
 
-/** solves A x = b from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order widthHeight;
+    b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
     int src2ByteShift, float* const* ppDst, int dstByteShift, int widthHeight);
 
-/** solves A x = b from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order widthHeight;
+    b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, const double* pSrc2,
     int src2Stride2, double* pDst, int dstStride2, int widthHeight);
 
-/** solves A x = b from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x = b from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order widthHeight;
+    b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift, int widthHeight);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, const float* pSrc2,
     int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
     int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
     int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift, int dstStride0, int widthHeight,
     int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, const double* pSrc2,
     int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
     int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; A of order widthHeight; b and x widthHeight
-    elements. */
+/** solves A x[k] = b[k] from the factor that zelmCholeskyDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmCholeskyBackSubst_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight,
     int count);
 
 /* ---- CholeskyDecomp ---- */
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDst, int dstStride1,
     int dstStride2, int widthHeight);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_m_32f_P(const float* const* ppSrc, int srcByteShift, float* const* ppDst,
     int dstByteShift, int widthHeight);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDst, int dstStride1,
     int dstStride2, int widthHeight);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_m_64f_P(const double* const* ppSrc, int srcByteShift, double* const* ppDst,
     int dstByteShift, int widthHeight);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
     float* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D holds the lower triangle of L,
-    with the reciprocals of L's diagonal on its diagonal; square matrices of order widthHeight. May return
-    zelStsNotPositiveDefinite. */
+/** A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower
+    triangle of L with the reciprocals of L's diagonal on its diagonal, and nothing above. A pivot of 0 or less
+    fails; of 2^-23 or less in order 3 of _P, of 2^-52 or less in strided double arrays of orders 1, 2, and 6 up;
+    square matrices of order widthHeight. May return zelStsNotPositiveDefinite. */
 ZelStatus zelmCholeskyDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
     double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
@@ -861,95 +871,95 @@ ZelStatus zelmCrossProduct_v3_32f(const float* pSrc1, const float* pSrc2, float*
     d(3) = - det of 0 1 2; D must not be a source: each element is stored before the next is computed. */
 ZelStatus zelmCrossProduct_v4_32f(const float* pSrc1, const float* pSrc2, const float* pSrc3, float* pDst);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
     int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
     const float* pSrc2, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const float* const* ppSrc2, int src2ByteShift, float* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
     int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
     const double* pSrc2, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = a[k] x b; vectors of 3 elements. */
+/** d[k] = a[k] x b; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const double* const* ppSrc2, int src2ByteShift, double* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_32f(const float* pSrc1, int src1Stride0, int src1Stride2, const float* pSrc2,
     int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride2,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
     int dstStride2, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_64f(const double* pSrc1, int src1Stride0, int src1Stride2, const double* pSrc2,
     int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride2,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
     int dstStride2, int count);
 
-/** d[k] = a[k] x b[k]; vectors of 3 elements. */
+/** d[k] = a[k] x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** d = a x b; vectors of 3 elements. */
+/** d = a x b; d must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vv_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride2,
     float* pDst, int dstStride2);
 
-/** d = a x b; vectors of 3 elements. */
+/** d = a x b; d must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vv_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
     int src2ByteShift, float* const* ppDst, int dstByteShift);
 
-/** d = a x b; vectors of 3 elements. */
+/** d = a x b; d must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vv_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride2,
     double* pDst, int dstStride2);
 
-/** d = a x b; vectors of 3 elements. */
+/** d = a x b; d must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, double* const* ppDst, int dstByteShift);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_32f(const float* pSrc1, int src1Stride2, const float* pSrc2, int src2Stride0,
     int src2Stride2, float* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_32f_L(const float* pSrc1, int src1Stride2, const float* const* ppSrc2,
     int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_32f_P(const float* const* ppSrc1, int src1ByteShift, const float* const* ppSrc2,
     int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_64f(const double* pSrc1, int src1Stride2, const double* pSrc2, int src2Stride0,
     int src2Stride2, double* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_64f_L(const double* pSrc1, int src1Stride2, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = a x b[k]; vectors of 3 elements. */
+/** d[k] = a x b[k]; d[k] must overlap neither; vectors of 3 elements. */
 ZelStatus zelmCrossProduct_vva_64f_P(const double* const* ppSrc1, int src1ByteShift, const double* const* ppSrc2,
     int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift, int dstStride0, int count);
 
@@ -1674,39 +1684,39 @@ ZelStatus zelmExtract_va_64f_P(const double* const* ppSrc, int srcByteShift, int
 
 /* ---- FrobNorm ---- */
 
-/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_m_32f(const float* pSrc, int srcStride1, int srcStride2, int width, int height, float* pDst);
 
-/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_m_32f_P(const float* const* ppSrc, int srcByteShift, int width, int height, float* pDst);
 
-/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_m_64f(const double* pSrc, int srcStride1, int srcStride2, int width, int height, double* pDst);
 
-/** *pDst = sqrt(sum over i, j of A(i, j)^2); A height x width. */
+/** *pDst = sqrt(sum over i, j of A(i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_m_64f_P(const double* const* ppSrc, int srcByteShift, int width, int height, double* pDst);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
     int height, float* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int width, int height, float* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
     float* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int width,
     int height, double* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int width, int height, double* pDst, int count);
 
-/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); A height x width. */
+/** pDst[k] = sqrt(sum over i, j of A[k](i, j)^2); infinite or 0 where the squares leave the range; A height x width. */
 ZelStatus zelmFrobNorm_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int width, int height,
     double* pDst, int count);
 
@@ -1931,37 +1941,43 @@ ZelStatus zelmIsIdentity_m4_32f(const float* pSrc, int* pResult);
 
 /* ---- L2Norm ---- */
 
-/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+/** *pDst = sqrt(sum over j of a(j)^2); infinite or 0 where the squares leave the range; vectors of width elements. */
 ZelStatus zelmL2Norm_v_32f(const float* pSrc, int srcStride2, float* pDst, int width);
 
-/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+/** *pDst = sqrt(sum over j of a(j)^2); infinite or 0 where the squares leave the range; vectors of width elements. */
 ZelStatus zelmL2Norm_v_32f_P(const float* const* ppSrc, int srcByteShift, float* pDst, int width);
 
-/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+/** *pDst = sqrt(sum over j of a(j)^2); infinite or 0 where the squares leave the range; vectors of width elements. */
 ZelStatus zelmL2Norm_v_64f(const double* pSrc, int srcStride2, double* pDst, int width);
 
-/** *pDst = sqrt(sum over j of a(j)^2); vectors of width elements. */
+/** *pDst = sqrt(sum over j of a(j)^2); infinite or 0 where the squares leave the range; vectors of width elements. */
 ZelStatus zelmL2Norm_v_64f_P(const double* const* ppSrc, int srcByteShift, double* pDst, int width);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_32f(const float* pSrc, int srcStride0, int srcStride2, float* pDst, int width, int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride2, float* pDst, int width,
     int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int width,
     int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_64f(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int width, int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride2, double* pDst, int width,
     int count);
 
-/** pDst[k] = sqrt(sum over j of a[k](j)^2); vectors of width elements. */
+/** pDst[k] = sqrt(sum over j of a[k](j)^2); infinite or 0 where the squares leave the range; vectors of width
+    elements. */
 ZelStatus zelmL2Norm_va_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst, int width,
     int count);
 
@@ -3191,6 +3207,174 @@ ZelStatus zelmProject_m4v3_32f(const float* pProjection, const float* pView, con
     sign; a count below 1 does nothing; D[k] may be A[k]. */
 ZelStatus zelmProject_m4v3a_32f(const float* pProjection, const float* pView, const float* pWorld, const float* pSrc,
     int srcStride0, float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst, int dstStride0, int count);
+
+/* ---- QRBackSubst ---- */
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
+    void* pBuffer, const float* pSrc2, int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2,
+    int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    void* pBuffer, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, void* pBuffer,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
+    void* pBuffer, const double* pSrc2, int src2Stride0, int src2Stride2, double* pDst, int dstStride0,
+    int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
+    void* pBuffer, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst,
+    int dstByteShift, int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, void* pBuffer,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int height, int count);
+
+/** least-squares solution of A x = b from the result of zelmQRDecomp; A height x width; b height, x width elements;
+    pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const float* pSrc2, int src2Stride2, float* pDst, int dstStride2, int width, int height);
+
+/** least-squares solution of A x = b from the result of zelmQRDecomp; A height x width; b height, x width elements;
+    pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, void* pBuffer,
+    const float* const* ppSrc2, int src2ByteShift, float* const* ppDst, int dstByteShift, int width, int height);
+
+/** least-squares solution of A x = b from the result of zelmQRDecomp; A height x width; b height, x width elements;
+    pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const double* pSrc2, int src2Stride2, double* pDst, int dstStride2, int width, int height);
+
+/** least-squares solution of A x = b from the result of zelmQRDecomp; A height x width; b height, x width elements;
+    pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, void* pBuffer,
+    const double* const* ppSrc2, int src2ByteShift, double* const* ppDst, int dstByteShift, int width, int height);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const float* pSrc2, int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2, int width,
+    int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
+    int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, void* pBuffer,
+    const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const double* pSrc2, int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2, int width,
+    int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, void* pBuffer,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
+    int dstStride2, int width, int height, int count);
+
+/** least-squares solution of A x[k] = b[k] from the result of zelmQRDecomp; A height x width; b height, x width
+    elements; pBuffer height elements. */
+ZelStatus zelmQRBackSubst_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, void* pBuffer,
+    const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
+    int dstStride0, int width, int height, int count);
+
+/* ---- QRDecomp ---- */
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_m_32f(const float* pSrc, int srcStride1, int srcStride2, void* pBuffer, float* pDst,
+    int dstStride1, int dstStride2, int width, int height);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_m_32f_P(const float* const* ppSrc, int srcByteShift, void* pBuffer, float* const* ppDst,
+    int dstByteShift, int width, int height);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_m_64f(const double* pSrc, int srcStride1, int srcStride2, void* pBuffer, double* pDst,
+    int dstStride1, int dstStride2, int width, int height);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_m_64f_P(const double* const* ppSrc, int srcByteShift, void* pBuffer, double* const* ppDst,
+    int dstByteShift, int width, int height);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    float* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height,
+    int count);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    float* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, void* pBuffer,
+    double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
+    void* pBuffer, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height,
+    int count);
+
+/** A = Q R by Householder reflections. D, which may be A, gets R and, below its diagonal, the reflection vectors
+    (leading 1 left out). A column whose rest has a squared norm below 2^-23 (2^-52 in double) fails, but for the
+    last of a square A; A and D height x width, width <= height; pBuffer height elements. May return
+    zelStsDivideByZero. */
+ZelStatus zelmQRDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, void* pBuffer,
+    double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
 /* ---- RotationAxis ---- */
 
