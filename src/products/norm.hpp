@@ -21,7 +21,9 @@ struct RootOfPairs {
     return Root{}(Paired::of(p));
   }
 };
-using PairedRoots = Sums<RootOfPairs, RootOfPairs>;
+struct PairedRoots : Sums<RootOfPairs, RootOfPairs> {
+  static constexpr bool pairs = true;
+};
 
 /// True if none of the results lies where an element of an array with any element stride does. Such an array is else read and its
 /// results are written object by object.

@@ -43,6 +43,7 @@ struct Paired {
 /// The order of a width's sums, in a block of objects and of one object alone.
 template <class Block, class One>
 struct Sums {
+  static constexpr bool pairs = std::is_same_v<Block, Paired>;
   template <class V, int N>
   ZELM_INLINE V block(const V (&p)[N], std::ptrdiff_t) const {
     return Block::of(p);
@@ -232,13 +233,13 @@ __attribute__((noinline)) void reduce_each(Terms terms, typename Terms::T* d, st
   }
 }
 
-/// Blocks of as many objects as a register has lanes; lanes(k, e) fills them with the terms.
-template <int N, class Terms, class Sum, class ToLanes>
+/// Blocks of as many objects as a register has lanes; lanes(k, e) fills them with the terms, or with sums of some.
+template <int N, int summands = N, class Terms, class Sum, class ToLanes>
 ZELM_INLINE void reduce_blocks(Terms terms, typename Terms::T* d, std::ptrdiff_t count, Sum sum, ToLanes lanes) {
   using P = Pack<typename Terms::T>;
   std::ptrdiff_t k = 0;
   for (; k + P::lanes <= count; k += P::lanes) {
-    P e[N];
+    P e[summands];
     lanes(k, e);
     sum.block(e, k).store(d + k);
   }
@@ -260,16 +261,32 @@ __attribute__((noinline)) void reduce_packed(Terms terms, typename Terms::T* d, 
   });
 }
 
+/// (p0 + p1) + (p2 + p3) of four rows: two shuffles fewer than with every term in a lane of its own.
+ZELM_INLINE Pack<float> pairs_to_lanes(Pack<float> a, Pack<float> b, Pack<float> c, Pack<float> d) {
+  const auto neighbours = [](Pack<float> x, Pack<float> y) ZELM_INLINE_LAMBDA {
+    return Pack<float>{shuffle<0x88>(x.raw, y.raw)} + Pack<float>{shuffle<0xdd>(x.raw, y.raw)};
+  };
+  return neighbours(neighbours(a, b), neighbours(c, d));
+}
+
 template <int N, class Terms, class Sum>
 __attribute__((noinline)) void reduce_rows(Terms terms, typename Terms::T* d, std::ptrdiff_t count, Sum sum) {
   using T = typename Terms::T;
   constexpr int L = Pack<T>::lanes;
+  constexpr bool pairs = Sum::pairs && L == 4 && N >= 4;
+  constexpr int summands = !pairs ? N : N == 4 ? 1 : 2;
   const auto rows = terms.template rows<N>();
-  reduce_blocks<N>(terms, d, count, sum, [=](std::ptrdiff_t k, auto& e) ZELM_INLINE_LAMBDA {
+  reduce_blocks<N, summands>(terms, d, count, sum, [=](std::ptrdiff_t k, auto& e) ZELM_INLINE_LAMBDA {
     Block<T, L, N> block;
     rows(k, block);
     const Block<T, N, L> turned = transposed(block);
-    ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = turned.rows[j].pack[0];
+    if constexpr (pairs) {
+      e[0] = pairs_to_lanes(block.rows[0].pack[0], block.rows[1].pack[0], block.rows[2].pack[0], block.rows[3].pack[0]);
+      if constexpr (N == 5) e[1] = turned.rows[4].pack[0];
+      if constexpr (N == 6) e[1] = turned.rows[4].pack[0] + turned.rows[5].pack[0];
+    } else {
+      ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = turned.rows[j].pack[0];
+    }
   });
 }
 
