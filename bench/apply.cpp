@@ -47,7 +47,7 @@ Case product(const char* operation, int n, std::vector<Operand> operands) {
   return c;
 }
 
-/// One matrix, its elements `step` apart in a row and `row` from row to row: the transposed forms take what they are given.
+/// One matrix; the transposed forms take it as it is stored.
 template <class T, class F>
 void one_matrix(const char* operation, F f, int n) {
   constexpr int E = sizeof(T);
