@@ -1,5 +1,6 @@
 #include "curvature.hpp"
 
+#include <zelcore.h>
 #include <zelm.h>
 
 #include <algorithm>
@@ -54,6 +55,32 @@ void condition(std::vector<double>& matrices, int n, double scale) {
     for (int i = 0; i < n; ++i) matrices[k + std::size_t(i * (n + 1))] += kShift;
 }
 
+/// The call on all cells. One matrix in some 70,000 comes to lie at the iteration's limits, does not converge, and ends the call: its
+/// rows and columns are reversed, and the call goes on from there. One thread, whose last object is the one that failed.
+ZelStatus values_and_vectors(std::vector<double>& matrices, std::vector<double>& values, std::vector<double>& vectors) {
+  constexpr int E = sizeof(double);
+  constexpr std::size_t kNone = std::size_t(-1);
+  double buffer[9];
+  std::fill(vectors.begin(), vectors.end(), std::numeric_limits<double>::quiet_NaN());
+  const std::size_t cells = values.size() / 3;
+  std::vector<std::size_t> reversed;
+  const int threads = zelGetNumThreads();
+  zelSetNumThreads(1);
+  ZelStatus status = zelStsOk;
+  for (std::size_t first = 0, last = kNone;; last = first) {
+    status = zelmEigenValuesVectorsSym_ma_64f(&matrices[9 * first], 9 * E, 3 * E, E, buffer, &vectors[9 * first], 9 * E, 3 * E,
+                                              E, &values[3 * first], 3, int(cells - first));
+    if (status != zelStsNoConvergence) break;
+    while (first + 1 < cells && !std::isnan(vectors[9 * (first + 1)])) ++first;  // the last one that was begun
+    if (first == last) break;
+    reversed.push_back(first);
+    std::reverse(&matrices[9 * first], &matrices[9 * first] + 9);
+  }
+  zelSetNumThreads(threads);
+  for (const std::size_t k : reversed) std::swap_ranges(&vectors[9 * k], &vectors[9 * k] + 3, &vectors[9 * k + 6]);
+  return status;
+}
+
 double timed(const char* function, auto&& call) {
   const auto start = std::chrono::steady_clock::now();
   if (const ZelStatus status = call(); status != zelStsOk)
@@ -78,15 +105,12 @@ Curvatures principal_curvatures(const Grid& grid, const NormalEquations& equatio
   condition(plane, 2, kScale / largest);
   condition(space, 3, kScale / largest);
 
-  double buffer[9];
+  double buffer[4];
   Curvatures result{std::vector<Bend>(cells), 0, 0, 0};
   result.plane_ms = timed("zelmEigenValuesSym_ma_64f", [&] {
     return zelmEigenValuesSym_ma_64f(plane.data(), 4 * E, 2 * E, E, buffer, plane_values.data(), 2, int(cells));
   });
-  result.space_ms = timed("zelmEigenValuesVectorsSym_ma_64f", [&] {
-    return zelmEigenValuesVectorsSym_ma_64f(space.data(), 9 * E, 3 * E, E, buffer, vectors.data(), 9 * E, 3 * E, E,
-                                            space_values.data(), 3, int(cells));
-  });
+  result.space_ms = timed("zelmEigenValuesVectorsSym_ma_64f", [&] { return values_and_vectors(space, space_values, vectors); });
 
   constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
   for (std::size_t k = 0; k < cells; ++k) {

@@ -345,7 +345,7 @@ void draw_curvature(const std::string& path, const Grid& grid, const NormalEquat
   const Picture picture = draw_forms(grid, curvatures.bends);
   picture.save_png(path);
   std::printf(
-      "Principal curvatures: %s, %d x %d pixels. All cells in two calls, eigenvalues of order 2 in %.1f ms,\n"
+      "Principal curvatures: %s, %d x %d pixels. Eigenvalues of order 2 in %.1f ms,\n"
       "values and vectors of order 3 in %.1f ms; the two differ by at most %.1e of the largest curvature.\n",
       path.c_str(), picture.width(), picture.height(), curvatures.plane_ms, curvatures.space_ms, curvatures.disagreement);
 }
