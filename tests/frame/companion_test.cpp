@@ -14,6 +14,7 @@ namespace zelm::test {
 namespace {
 
 TEST(Companion, NumberOfThreads) {
+  zelSetNumThreads(0);
   const int usual = zelGetNumThreads();
   EXPECT_GE(usual, 1);
   zelSetNumThreads(5);

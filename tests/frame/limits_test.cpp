@@ -60,6 +60,11 @@ const struct Rule {
     {"Saxpy", "vava", kThreeArrays, kSaxpy},
     {"LComb", "vav", kOneSingle, kWeighted},
     {"LComb", "vava", kThreeArrays, kWeighted},
+    // The second matrix has the sizes of the first, exchanged where the product needs it.
+    {"Mul", "mam mat mma mta", [](auto c, auto w, auto h) { return c * w * h + c * h * h + w * h; }, kProduct},
+    {"Mul", "tam tat tma tta", [](auto c, auto w, auto h) { return c * w * h + c * w * w + w * h; }, kProduct},
+    {"Mul", "mama mata", [](auto c, auto w, auto h) { return 2 * c * w * h + c * h * h; }, kProduct},
+    {"Mul", "tama tata", [](auto c, auto w, auto h) { return 2 * c * w * h + c * w * w; }, kProduct},
     {"Mul", "mva tva", kOneMatrix, kProduct},
     {"Mul", "mav", [](auto c, auto w, auto h) { return c * w * h + c * h + w; }, kProduct},
     {"Mul", "tav", [](auto c, auto w, auto h) { return c * w * h + c * w + h; }, kProduct},
@@ -94,6 +99,11 @@ const struct Rule {
     {"QRBackSubst", "mava", [](auto c, auto w, auto h) { return c * w * h + c * w + c * h; }, kQR},
     {"CholeskyBackSubst", "mva", kOneFactor, {1201, 1201, 721, 721, 721, 721, 721, 721, 721, 721}},
     {"CholeskyBackSubst", "mava", kOwnFactors, {2051, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 1701, 2051}},
+    {"EigenValues", "ma", [](auto c, auto n, auto) { return c * n * n + c * n; }, everywhere(251)},
+    {"EigenValuesSym", "ma", [](auto c, auto n, auto) { return c * n * n + c * n; }, everywhere(1001)},
+    {"EigenValuesVectors", "ma", [](auto c, auto n, auto) { return 3 * c * n * n + c * n; }, everywhere(501)},
+    {"EigenValuesVectorsSym", "ma", [](auto c, auto n, auto) { return 2 * c * n * n + c * n; }, everywhere(701)},
+    {"EigenValuesVectorsLeft EigenValuesVectorsRight", "ma", nullptr, kNever},
     {"AffineTransform3DH", "mva", [](auto c, auto, auto) { return 6 * c; }, {785, 785, 0, 0, 0, 0, 0, 0, 0, 0}},
 };
 
@@ -111,6 +121,7 @@ const Rule* rule_of(const Function& f) {
 /// large; for the size of the cache it asked imports.cache_asked times.
 int asked(const std::string& name, int c, int w, int h, bool contiguous) {
   const Function& f = function("zelm" + name);
+  const bool exchanged = f.operands.size() > 1 && f.operands[0].transposed == f.operands[1].transposed;
   alignas(8) static unsigned char bytes[2 << 20];
   static int index[4 * 4096];
   std::fill(bytes, bytes + 40000, 0);
@@ -122,7 +133,9 @@ int asked(const std::string& name, int c, int w, int h, bool contiguous) {
     else if (a.name.ends_with("Index")) v.p = index;
     else if (a.name[0] == 'p') v.p = bytes;
     else if (a.name == "count") v.i = c;
-    else if (a.name == "height") v.i = h;
+    else if (a.name == "width2") v.i = exchanged ? h : w;
+    else if (a.name == "height2") v.i = exchanged ? w : h;
+    else if (a.name.starts_with("height")) v.i = h;
     else if (a.name.starts_with("width")) v.i = w;
     else if (a.name == "src2Len") v.i = f.operands[0].transposed ? h : w;
     else if (a.name == "src3Len") v.i = h;
