@@ -32,8 +32,9 @@ struct Functions<double> {
   static constexpr auto right_one = zelmEigenValuesVectorsRight_m_64f;
 };
 
+/// zelm's limits are absolute: what lies below them is dropped.
 template <class T>
-constexpr double kTolerance = sizeof(T) == 4 ? 1e-4 : 1e-10;
+constexpr double kTolerance = sizeof(T) == 4 ? 1e-3 : 1e-8;
 
 /// Uniform matrices, but for those that would end the call: a product of eigenvalues near zero, or too many sweeps.
 template <class T, bool symmetric>
