@@ -7,6 +7,10 @@ namespace zelm::bench {
 namespace {
 
 /// Against rivals for SSE4.2. For float of order 4 a shuffle for each broadcast is the floor of both.
+/// Rivals fuse, or sum in another order.
+template <class T>
+constexpr double kTolerance = sizeof(T) == 4 ? 0x1p-18 : 0x1p-46;
+
 std::vector<Limit> limits(int n, bool single_precision) {
   if (n > 6) return {{1.2, "SSE4.2", {Set::l1}}};
   if (!single_precision) return {{0.9, "SSE4.2", {Set::l1}}};
@@ -20,7 +24,7 @@ void product(const char* operation, int n, Operand a, Operand b, Operand d, Call
   Case c{.operation = operation, .type = kTypeTag<T>, .n = n, .layout = d.layout, .layouts = layouts};
   c.operands = {a, b, d};
   c.call = call;
-  c.tolerance = sizeof(T) == 4 ? 0x1p-18 : 0x1p-46;  // rivals fuse or sum in another order
+  c.tolerance = kTolerance<T>;
   c.limits = kept;
   c.threads = {1};
   if (slot > 0) {  // gaps: compare only what belongs to a matrix
@@ -118,6 +122,7 @@ bool one_object(F f) {
   for (const int n : {3, 4}) {
     constexpr int E = sizeof(T);
     Case c{.operation = "Mul_mm", .type = kTypeTag<T>, .n = n};
+    c.tolerance = kTolerance<T>;
     c.operands = {single(in<T>(n * n)), single(in<T>(n * n)), single(out<T>(n * n))};
     c.call = repeated([=](const Array* at) {
       return f(at[0].of<T>(), n * E, E, n, n, at[1].of<T>(), n * E, E, n, n, at[2].of<T>(), n * E, E);
