@@ -6,11 +6,11 @@
 namespace zelm::bench {
 namespace {
 
-/// Against rivals for SSE4.2. For float of order 4 a shuffle for each broadcast is the floor of both.
 /// Rivals fuse, or sum in another order.
 template <class T>
 constexpr double kTolerance = sizeof(T) == 4 ? 0x1p-18 : 0x1p-46;
 
+/// Against rivals for SSE4.2. For float of order 4 a shuffle for each broadcast is the floor of both.
 std::vector<Limit> limits(int n, bool single_precision) {
   if (n > 6) return {{1.2, "SSE4.2", {Set::l1}}};
   if (!single_precision) return {{0.9, "SSE4.2", {Set::l1}}};
