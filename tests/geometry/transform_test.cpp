@@ -220,6 +220,10 @@ std::vector<Strides> strides(int in, int out) {
   return {{s, d}, {s, d + 4}, {16, 16}, {s + 1, d + 3}, {-s, -d}, {-s, d}, {0, d}, {s, 0}, {s + 8, 7}, {-32, -5}, {s, -d}};
 }
 
+/// True if no part of an element is written over another. Which NaN a sum of two passes on is the compiler's choice, and parts of it
+/// would come out as another number.
+bool whole(Strides s, const Span& destination) { return s.src % 4 == 0 && s.dst % 4 == 0 && destination.shift % 4 == 0; }
+
 /// Calls body(turn, strides, count, spans of source and destination): beside each other, in place, and overlapping.
 template <class Body>
 void for_arrays(int in, int out, Body body) {
@@ -256,7 +260,7 @@ TEST(Transform, Arrays) {
     for_arrays(t.in, t.out, [&](int turn, Strides s, int count, Span source, Span destination) {
       if (destination.of == 0) destination.of = 1;
       expect_same("zelm" + std::string(t.name) + "a_32f", {floats(16), source, destination},
-                  {double(s.src), double(s.dst), double(count)}, turn, numbers(random, turn % 4 == 0),
+                  {double(s.src), double(s.dst), double(count)}, turn, numbers(random, turn % 4 == 0 && whole(s, destination)),
                   [&](const std::vector<E>& p) {
                     each(t, p[0].copy<16>(), p[1], s.src, p[2], s.dst, count);
                     return zelStsOk;
@@ -363,12 +367,13 @@ TEST(Screen, Arrays) {
     const std::vector<double> port = {640, 480, .25, .75};
     const std::vector<double> all = {double(s.src), 640, 480, .25, .75, double(s.dst), double(count)};
     const std::vector<Span> spans = {floats(16), floats(16), floats(16), source, destination};
-    expect_same("zelmProject_m4v3a_32f", spans, all, turn, numbers(random, turn % 4 == 0), [&](const std::vector<E>& p) {
-      const View v(p, port);
-      const M t = product(v.world, product(v.view, v.projection));
-      for (int k = 0; k < count; ++k) project_by(t, v, p[3].moved(k * s.src), p[4].moved(k * s.dst));
-      return zelStsOk;
-    });
+    expect_same("zelmProject_m4v3a_32f", spans, all, turn, numbers(random, turn % 4 == 0 && whole(s, destination)),
+                [&](const std::vector<E>& p) {
+                  const View v(p, port);
+                  const M t = product(v.world, product(v.view, v.projection));
+                  for (int k = 0; k < count; ++k) project_by(t, v, p[3].moved(k * s.src), p[4].moved(k * s.dst));
+                  return zelStsOk;
+                });
     expect_same("zelmUnproject_m4v3a_32f", spans, all, turn, numbers(random, false), [&](const std::vector<E>& p) -> ZelStatus {
       const View v(p, port);
       M m;
