@@ -9,32 +9,17 @@ namespace zelm::bench {
 namespace {
 
 template <class T>
-struct Functions;
-template <>
-struct Functions<float> {
-  static constexpr auto one_matrix = zelmMul_mva_32f;
-  static constexpr auto one_matrix_list = zelmMul_mva_32f_L;
-  static constexpr auto one_matrix_elements = zelmMul_mva_32f_P;
-  static constexpr auto one_vector = zelmMul_mav_32f;
-  static constexpr auto pairs = zelmMul_mava_32f;
-  static constexpr auto turned = zelmMul_tva_32f;
-  static constexpr auto turned_pairs = zelmMul_tava_32f;
-  static constexpr auto gaxpy = zelmGaxpy_mva_32f;
-  static constexpr auto gaxpy_one = zelmGaxpy_mvav_32f;
-  static constexpr auto single = zelmMul_mv_32f;
-};
-template <>
-struct Functions<double> {
-  static constexpr auto one_matrix = zelmMul_mva_64f;
-  static constexpr auto one_matrix_list = zelmMul_mva_64f_L;
-  static constexpr auto one_matrix_elements = zelmMul_mva_64f_P;
-  static constexpr auto one_vector = zelmMul_mav_64f;
-  static constexpr auto pairs = zelmMul_mava_64f;
-  static constexpr auto turned = zelmMul_tva_64f;
-  static constexpr auto turned_pairs = zelmMul_tava_64f;
-  static constexpr auto gaxpy = zelmGaxpy_mva_64f;
-  static constexpr auto gaxpy_one = zelmGaxpy_mvav_64f;
-  static constexpr auto single = zelmMul_mv_64f;
+struct Functions {
+  static constexpr auto one_matrix = of_type<T>(zelmMul_mva_32f, zelmMul_mva_64f);
+  static constexpr auto one_matrix_list = of_type<T>(zelmMul_mva_32f_L, zelmMul_mva_64f_L);
+  static constexpr auto one_matrix_elements = of_type<T>(zelmMul_mva_32f_P, zelmMul_mva_64f_P);
+  static constexpr auto one_vector = of_type<T>(zelmMul_mav_32f, zelmMul_mav_64f);
+  static constexpr auto pairs = of_type<T>(zelmMul_mava_32f, zelmMul_mava_64f);
+  static constexpr auto turned = of_type<T>(zelmMul_tva_32f, zelmMul_tva_64f);
+  static constexpr auto turned_pairs = of_type<T>(zelmMul_tava_32f, zelmMul_tava_64f);
+  static constexpr auto gaxpy = of_type<T>(zelmGaxpy_mva_32f, zelmGaxpy_mva_64f);
+  static constexpr auto gaxpy_one = of_type<T>(zelmGaxpy_mvav_32f, zelmGaxpy_mvav_64f);
+  static constexpr auto single = of_type<T>(zelmMul_mv_32f, zelmMul_mv_64f);
 };
 
 /// Operands: matrices, vectors, results; of gaxpy the addends before the results.

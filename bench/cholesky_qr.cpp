@@ -11,36 +11,19 @@ namespace zelm::bench {
 namespace {
 
 template <class T>
-struct Functions;
-template <>
-struct Functions<float> {
-  static constexpr auto cholesky_one = zelmCholeskyDecomp_m_32f;
-  static constexpr auto cholesky = zelmCholeskyDecomp_ma_32f;
-  static constexpr auto cholesky_list = zelmCholeskyDecomp_ma_32f_L;
-  static constexpr auto cholesky_elements = zelmCholeskyDecomp_ma_32f_P;
-  static constexpr auto cholesky_solve_each = zelmCholeskyBackSubst_mava_32f;
-  static constexpr auto cholesky_solve_vectors = zelmCholeskyBackSubst_mva_32f;
-  static constexpr auto qr_one = zelmQRDecomp_m_32f;
-  static constexpr auto qr = zelmQRDecomp_ma_32f;
-  static constexpr auto qr_list = zelmQRDecomp_ma_32f_L;
-  static constexpr auto qr_elements = zelmQRDecomp_ma_32f_P;
-  static constexpr auto qr_solve_each = zelmQRBackSubst_mava_32f;
-  static constexpr auto qr_solve_vectors = zelmQRBackSubst_mva_32f;
-};
-template <>
-struct Functions<double> {
-  static constexpr auto cholesky_one = zelmCholeskyDecomp_m_64f;
-  static constexpr auto cholesky = zelmCholeskyDecomp_ma_64f;
-  static constexpr auto cholesky_list = zelmCholeskyDecomp_ma_64f_L;
-  static constexpr auto cholesky_elements = zelmCholeskyDecomp_ma_64f_P;
-  static constexpr auto cholesky_solve_each = zelmCholeskyBackSubst_mava_64f;
-  static constexpr auto cholesky_solve_vectors = zelmCholeskyBackSubst_mva_64f;
-  static constexpr auto qr_one = zelmQRDecomp_m_64f;
-  static constexpr auto qr = zelmQRDecomp_ma_64f;
-  static constexpr auto qr_list = zelmQRDecomp_ma_64f_L;
-  static constexpr auto qr_elements = zelmQRDecomp_ma_64f_P;
-  static constexpr auto qr_solve_each = zelmQRBackSubst_mava_64f;
-  static constexpr auto qr_solve_vectors = zelmQRBackSubst_mva_64f;
+struct Functions {
+  static constexpr auto cholesky_one = of_type<T>(zelmCholeskyDecomp_m_32f, zelmCholeskyDecomp_m_64f);
+  static constexpr auto cholesky = of_type<T>(zelmCholeskyDecomp_ma_32f, zelmCholeskyDecomp_ma_64f);
+  static constexpr auto cholesky_list = of_type<T>(zelmCholeskyDecomp_ma_32f_L, zelmCholeskyDecomp_ma_64f_L);
+  static constexpr auto cholesky_elements = of_type<T>(zelmCholeskyDecomp_ma_32f_P, zelmCholeskyDecomp_ma_64f_P);
+  static constexpr auto cholesky_solve_each = of_type<T>(zelmCholeskyBackSubst_mava_32f, zelmCholeskyBackSubst_mava_64f);
+  static constexpr auto cholesky_solve_vectors = of_type<T>(zelmCholeskyBackSubst_mva_32f, zelmCholeskyBackSubst_mva_64f);
+  static constexpr auto qr_one = of_type<T>(zelmQRDecomp_m_32f, zelmQRDecomp_m_64f);
+  static constexpr auto qr = of_type<T>(zelmQRDecomp_ma_32f, zelmQRDecomp_ma_64f);
+  static constexpr auto qr_list = of_type<T>(zelmQRDecomp_ma_32f_L, zelmQRDecomp_ma_64f_L);
+  static constexpr auto qr_elements = of_type<T>(zelmQRDecomp_ma_32f_P, zelmQRDecomp_ma_64f_P);
+  static constexpr auto qr_solve_each = of_type<T>(zelmQRBackSubst_mava_32f, zelmQRBackSubst_mava_64f);
+  static constexpr auto qr_solve_vectors = of_type<T>(zelmQRBackSubst_mva_32f, zelmQRBackSubst_mva_64f);
 };
 
 /// Well-conditioned systems, whose results can be compared.
@@ -254,18 +237,7 @@ bool all_of_type() {
   return true;
 }
 
-bool other_layouts() {
-  for (const auto make : {cholesky<float>, qr<float>})
-    for (const Layout layout : {Layout::list, Layout::elements})
-      for (const int n : {3, 4, 5, 6}) {
-        Case c = make(n, layout);
-        c.threads = {1};
-        measure(c);
-      }
-  return true;
-}
-
-const bool all = all_of_type<float>() && all_of_type<double>() && other_layouts();
+const bool all = all_of_type<float>() && all_of_type<double>() && measure_other_layouts({cholesky<float>, qr<float>});
 
 }  // namespace
 }  // namespace zelm::bench

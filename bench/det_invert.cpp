@@ -10,26 +10,14 @@ namespace zelm::bench {
 namespace {
 
 template <class T>
-struct Functions;
-template <>
-struct Functions<float> {
-  static constexpr auto det = zelmDet_ma_32f;
-  static constexpr auto det_list = zelmDet_ma_32f_L;
-  static constexpr auto det_elements = zelmDet_ma_32f_P;
-  static constexpr auto invert_one = zelmInvert_m_32f;
-  static constexpr auto invert = zelmInvert_ma_32f;
-  static constexpr auto invert_list = zelmInvert_ma_32f_L;
-  static constexpr auto invert_elements = zelmInvert_ma_32f_P;
-};
-template <>
-struct Functions<double> {
-  static constexpr auto det = zelmDet_ma_64f;
-  static constexpr auto det_list = zelmDet_ma_64f_L;
-  static constexpr auto det_elements = zelmDet_ma_64f_P;
-  static constexpr auto invert_one = zelmInvert_m_64f;
-  static constexpr auto invert = zelmInvert_ma_64f;
-  static constexpr auto invert_list = zelmInvert_ma_64f_L;
-  static constexpr auto invert_elements = zelmInvert_ma_64f_P;
+struct Functions {
+  static constexpr auto det = of_type<T>(zelmDet_ma_32f, zelmDet_ma_64f);
+  static constexpr auto det_list = of_type<T>(zelmDet_ma_32f_L, zelmDet_ma_64f_L);
+  static constexpr auto det_elements = of_type<T>(zelmDet_ma_32f_P, zelmDet_ma_64f_P);
+  static constexpr auto invert_one = of_type<T>(zelmInvert_m_32f, zelmInvert_m_64f);
+  static constexpr auto invert = of_type<T>(zelmInvert_ma_32f, zelmInvert_ma_64f);
+  static constexpr auto invert_list = of_type<T>(zelmInvert_ma_32f_L, zelmInvert_ma_64f_L);
+  static constexpr auto invert_elements = of_type<T>(zelmInvert_ma_32f_P, zelmInvert_ma_64f_P);
 };
 
 /// Diagonally dominant: results that can be compared.

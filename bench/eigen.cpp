@@ -12,24 +12,13 @@ namespace zelm::bench {
 namespace {
 
 template <class T>
-struct Functions;
-template <>
-struct Functions<float> {
-  static constexpr auto symmetric_values = zelmEigenValuesSym_ma_32f;
-  static constexpr auto symmetric_vectors = zelmEigenValuesVectorsSym_ma_32f;
-  static constexpr auto symmetric_vectors_one = zelmEigenValuesVectorsSym_m_32f;
-  static constexpr auto values = zelmEigenValues_ma_32f;
-  static constexpr auto right = zelmEigenValuesVectorsRight_ma_32f;
-  static constexpr auto right_one = zelmEigenValuesVectorsRight_m_32f;
-};
-template <>
-struct Functions<double> {
-  static constexpr auto symmetric_values = zelmEigenValuesSym_ma_64f;
-  static constexpr auto symmetric_vectors = zelmEigenValuesVectorsSym_ma_64f;
-  static constexpr auto symmetric_vectors_one = zelmEigenValuesVectorsSym_m_64f;
-  static constexpr auto values = zelmEigenValues_ma_64f;
-  static constexpr auto right = zelmEigenValuesVectorsRight_ma_64f;
-  static constexpr auto right_one = zelmEigenValuesVectorsRight_m_64f;
+struct Functions {
+  static constexpr auto symmetric_values = of_type<T>(zelmEigenValuesSym_ma_32f, zelmEigenValuesSym_ma_64f);
+  static constexpr auto symmetric_vectors = of_type<T>(zelmEigenValuesVectorsSym_ma_32f, zelmEigenValuesVectorsSym_ma_64f);
+  static constexpr auto symmetric_vectors_one = of_type<T>(zelmEigenValuesVectorsSym_m_32f, zelmEigenValuesVectorsSym_m_64f);
+  static constexpr auto values = of_type<T>(zelmEigenValues_ma_32f, zelmEigenValues_ma_64f);
+  static constexpr auto right = of_type<T>(zelmEigenValuesVectorsRight_ma_32f, zelmEigenValuesVectorsRight_ma_64f);
+  static constexpr auto right_one = of_type<T>(zelmEigenValuesVectorsRight_m_32f, zelmEigenValuesVectorsRight_m_64f);
 };
 
 /// zelm's limits are absolute: what lies below them is dropped.

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -112,6 +113,25 @@ struct Case {
 
 std::vector<Case>& cases();
 bool measure(Case);  // true
+
+/// Cases of sizes 3 to 6 in lists and element tables, with one thread.
+inline bool measure_other_layouts(std::initializer_list<Case (*)(int n, Layout)> makers) {
+  for (const auto make : makers)
+    for (const Layout layout : {Layout::list, Layout::elements})
+      for (const int n : {3, 4, 5, 6}) {
+        Case c = make(n, layout);
+        c.threads = {1};
+        measure(c);
+      }
+  return true;
+}
+
+/// The one of a pair of functions that is for element type T.
+template <class T, class Single, class Double>
+constexpr auto of_type(Single single, Double twice) {
+  if constexpr (sizeof(T) == 4) return single;
+  else return twice;
+}
 
 /// The call of a Case in Set::call: `one` inlined into the loop over the calls, which are all made.
 template <class One>

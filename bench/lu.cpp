@@ -33,28 +33,15 @@ std::vector<double> product_of_factors(const Results& results, std::ptrdiff_t ob
 }
 
 template <class T>
-struct Functions;
-template <>
-struct Functions<float> {
-  static constexpr auto decompose_one = zelmLUDecomp_m_32f;
-  static constexpr auto decompose = zelmLUDecomp_ma_32f;
-  static constexpr auto decompose_list = zelmLUDecomp_ma_32f_L;
-  static constexpr auto decompose_elements = zelmLUDecomp_ma_32f_P;
-  static constexpr auto solve_each = zelmLUBackSubst_mava_32f;
-  static constexpr auto solve_each_list = zelmLUBackSubst_mava_32f_L;
-  static constexpr auto solve_each_elements = zelmLUBackSubst_mava_32f_P;
-  static constexpr auto solve_vectors = zelmLUBackSubst_mva_32f;
-};
-template <>
-struct Functions<double> {
-  static constexpr auto decompose_one = zelmLUDecomp_m_64f;
-  static constexpr auto decompose = zelmLUDecomp_ma_64f;
-  static constexpr auto decompose_list = zelmLUDecomp_ma_64f_L;
-  static constexpr auto decompose_elements = zelmLUDecomp_ma_64f_P;
-  static constexpr auto solve_each = zelmLUBackSubst_mava_64f;
-  static constexpr auto solve_each_list = zelmLUBackSubst_mava_64f_L;
-  static constexpr auto solve_each_elements = zelmLUBackSubst_mava_64f_P;
-  static constexpr auto solve_vectors = zelmLUBackSubst_mva_64f;
+struct Functions {
+  static constexpr auto decompose_one = of_type<T>(zelmLUDecomp_m_32f, zelmLUDecomp_m_64f);
+  static constexpr auto decompose = of_type<T>(zelmLUDecomp_ma_32f, zelmLUDecomp_ma_64f);
+  static constexpr auto decompose_list = of_type<T>(zelmLUDecomp_ma_32f_L, zelmLUDecomp_ma_64f_L);
+  static constexpr auto decompose_elements = of_type<T>(zelmLUDecomp_ma_32f_P, zelmLUDecomp_ma_64f_P);
+  static constexpr auto solve_each = of_type<T>(zelmLUBackSubst_mava_32f, zelmLUBackSubst_mava_64f);
+  static constexpr auto solve_each_list = of_type<T>(zelmLUBackSubst_mava_32f_L, zelmLUBackSubst_mava_64f_L);
+  static constexpr auto solve_each_elements = of_type<T>(zelmLUBackSubst_mava_32f_P, zelmLUBackSubst_mava_64f_P);
+  static constexpr auto solve_vectors = of_type<T>(zelmLUBackSubst_mva_32f, zelmLUBackSubst_mva_64f);
 };
 
 /// Backward errors of n operations for each element, and growth of the elements.
@@ -204,18 +191,7 @@ bool all_of_type() {
   return true;
 }
 
-bool other_layouts() {
-  for (const auto make : {decompose<float>, solve_each<float>})
-    for (const Layout layout : {Layout::list, Layout::elements})
-      for (const int n : {3, 4, 5, 6}) {
-        Case c = make(n, layout);
-        c.threads = {1};
-        measure(c);
-      }
-  return true;
-}
-
-const bool all = all_of_type<float>() && all_of_type<double>() && other_layouts();
+const bool all = all_of_type<float>() && all_of_type<double>() && measure_other_layouts({decompose<float>, solve_each<float>});
 
 }  // namespace
 }  // namespace zelm::bench
