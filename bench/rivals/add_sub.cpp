@@ -1,15 +1,9 @@
 // rivals/add_sub.cpp: sums and differences of objects.
-#include <Eigen/Core>
-
+#include "rivals/eigen_types.hpp"
 #include "rivals/rival.hpp"
 
 namespace zelm::bench::rivals {
 namespace {
-
-template <class T, int N>
-using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
-template <class T, int N>
-using Vector = Eigen::Matrix<T, N, 1>;
 
 // By type, so that every lambda below has an operation of its own.
 struct Plus {

@@ -1,15 +1,9 @@
 // rivals/apply.cpp: a matrix applied to vectors, and gaxpy. Operands: matrices, vectors, (addends,) results.
-#include <Eigen/Core>
-
+#include "rivals/eigen_types.hpp"
 #include "rivals/rival.hpp"
 
 namespace zelm::bench::rivals {
 namespace {
-
-template <class T, int N>
-using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
-template <class T, int N>
-using Vector = Eigen::Matrix<T, N, 1>;
 
 /// Which operands are one object for all, which matrix is turned, and whether there is an addend.
 struct Form {

@@ -3,15 +3,11 @@
 #include <Eigen/QR>
 #include <cmath>
 
+#include "rivals/eigen_types.hpp"
 #include "rivals/rival.hpp"
 
 namespace zelm::bench::rivals {
 namespace {
-
-template <class T, int N>
-using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
-template <class T, int N>
-using Vector = Eigen::Matrix<T, N, 1>;
 
 // Operands of CholeskyDecomp_ma: source, factor, with L's diagonal or its reciprocals.
 

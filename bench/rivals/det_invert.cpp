@@ -3,13 +3,11 @@
 #include <cmath>
 #include <utility>
 
+#include "rivals/eigen_types.hpp"
 #include "rivals/rival.hpp"
 
 namespace zelm::bench::rivals {
 namespace {
-
-template <class T, int N>
-using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
 
 constexpr auto eigen_det = []<class T, int N>(const Array* at, std::ptrdiff_t first, std::ptrdiff_t count) {
   for (std::ptrdiff_t k = first; k < first + count; ++k)

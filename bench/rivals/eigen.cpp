@@ -1,15 +1,11 @@
 // rivals/eigen.cpp: Eigen's eigenvalue solvers on fixed-size types.
 #include <Eigen/Eigenvalues>
 
+#include "rivals/eigen_types.hpp"
 #include "rivals/rival.hpp"
 
 namespace zelm::bench::rivals {
 namespace {
-
-template <class T, int N>
-using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
-template <class T, int N>
-using Vector = Eigen::Matrix<T, N, 1>;
 
 // Operands: source, values, vectors.
 

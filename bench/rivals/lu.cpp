@@ -4,15 +4,11 @@
 #include <cmath>
 #include <utility>
 
+#include "rivals/eigen_types.hpp"
 #include "rivals/rival.hpp"
 
 namespace zelm::bench::rivals {
 namespace {
-
-template <class T, int N>
-using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
-template <class T, int N>
-using Vector = Eigen::Matrix<T, N, 1>;
 
 // Operands of LUDecomp_ma: source, index, factors.
 

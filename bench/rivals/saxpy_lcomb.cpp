@@ -1,13 +1,9 @@
 // rivals/saxpy_lcomb.cpp: scaled sums of vectors. Operands: first vectors, second vectors, results, scale factors.
-#include <Eigen/Core>
-
+#include "rivals/eigen_types.hpp"
 #include "rivals/rival.hpp"
 
 namespace zelm::bench::rivals {
 namespace {
-
-template <class T, int N>
-using Vector = Eigen::Matrix<T, N, 1>;
 
 // By type, so that every lambda below has a formula of its own.
 struct Saxpy {
