@@ -73,7 +73,7 @@ ZELM_INLINE void lanes_to_rows(const Pack<double> (&e)[N], Address at) {
   if constexpr (N % 2) e[N - 1].template scatter<2>([&](int l) { return at(l) + (N - 1); });
 }
 
-/// Four vectors of three elements without gaps between them: three registers.
+/// Vectors of three elements without gaps between them, as many as a register has lanes: three registers.
 ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const Pack<float> (&run)[3]) {
   const __m128 a = run[0].raw, b = run[1].raw, c = run[2].raw;  // x0y0z0x1 y1z1x2y2 z2x3y3z3
   const __m128 y0z0y1z1 = shuffle<0x49>(a, b), x2y2x3y3 = shuffle<0x9e>(b, c);
@@ -81,8 +81,16 @@ ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const Pack<float> (&run)[3
   e[1].raw = shuffle<0xd8>(y0z0y1z1, x2y2x3y3);
   e[2].raw = shuffle<0xcd>(y0z0y1z1, c);
 }
-ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const float* p) {
-  packed_to_lanes(e, {Pack<float>::load(p), Pack<float>::load(p + 4), Pack<float>::load(p + 8)});
+ZELM_INLINE void packed_to_lanes(Pack<double> (&e)[3], const Pack<double> (&run)[3]) {
+  const __m128d a = run[0].raw, b = run[1].raw, c = run[2].raw;  // x0y0 z0x1 y1z1
+  e[0].raw = shuffle<2>(a, b);
+  e[1].raw = shuffle<1>(a, c);
+  e[2].raw = shuffle<2>(b, c);
+}
+template <class T>
+ZELM_INLINE void packed_to_lanes(Pack<T> (&e)[3], const T* p) {
+  constexpr int L = Pack<T>::lanes;
+  packed_to_lanes(e, {Pack<T>::load(p), Pack<T>::load(p + L), Pack<T>::load(p + 2 * L)});
 }
 template <bool streamed = false>
 ZELM_INLINE void lanes_to_packed(const Pack<float> (&e)[3], float* p) {
@@ -91,6 +99,12 @@ ZELM_INLINE void lanes_to_packed(const Pack<float> (&e)[3], float* p) {
   put<streamed>(Pack<float>{shuffle<0x88>(x0x2y0y2, z0z2x1x3)}, p);
   put<streamed>(Pack<float>{shuffle<0xd8>(y1y3z1z3, x0x2y0y2)}, p + 4);
   put<streamed>(Pack<float>{shuffle<0xdd>(z0z2x1x3, y1y3z1z3)}, p + 8);
+}
+ZELM_INLINE void lanes_to_packed(const Pack<double> (&e)[3], double* p) {
+  const __m128d x = e[0].raw, y = e[1].raw, z = e[2].raw;
+  Pack<double>{shuffle<0>(x, y)}.store(p);
+  Pack<double>{shuffle<2>(z, x)}.store(p + 2);
+  Pack<double>{shuffle<3>(y, z)}.store(p + 4);
 }
 
 /// Four vectors of two elements.
@@ -256,7 +270,7 @@ struct Lanes {
 
  private:
   template <class View>
-  static constexpr bool packable = View::plain&& View::array&& R == 1 && C == 3 && std::is_same_v<T, float>;
+  static constexpr bool packable = View::plain&& View::array&& R == 1 && C == 3;
 
   template <class View>
   __attribute__((noinline)) void store_some(const View& view, std::ptrdiff_t k, int valid) const {

@@ -81,8 +81,8 @@ ZELM_INLINE void fixed(const A& a, const B& b, const C& c, const D& d, int count
   constexpr bool contiguous = std::is_same_v<typename D::Object, StridedObject<T, true>>;
   if constexpr (std::is_same_v<Order, ResidentOrBatched>)
     if (batched<N>(a, b, c, d, count)) return;
-  if constexpr (!D::array) {
-    in_columns<Order, N>(columns_of<turned>(a), b, c, d, 1);
+  if constexpr (!D::array || std::is_same_v<Order, AsBlocks>) {
+    in_columns<Order, N>(columns_of<turned>(a), b, c, d, count);
   } else if constexpr (!contiguous) {
     // Matrices column by column have vectors of adjacent elements all the same.
     if constexpr (!A::array && requires { b.as_adjacent(); }) {
@@ -113,6 +113,7 @@ ZELM_INLINE void fixed(const A& a, const B& b, const C& c, const D& d, int count
 
 /// in_blocks
 struct Blocks {
+  using InLanes = LanesOfBlocks;
   template <bool turned, class A, class X, class D>
   static ZELM_INLINE void one(const A& a, const X& x, None, const D& d, int rows, int length) {
     in_blocks<turned>(a.base, a.row_stride, x.base, d.base, rows, length);
@@ -121,6 +122,7 @@ struct Blocks {
 
 /// in_rows
 struct Rows {
+  using InLanes = LanesOfRows;
   template <bool turned, class A, class X, class D>
   static ZELM_INLINE void one(const A& a, const X& x, None, const D& d, int rows, int length) {
     in_rows(a.base, a.row_stride, x.base, d.base, rows, length);
@@ -174,7 +176,14 @@ struct Sums {
         else n = one_by_one_beside(a, b, c, d, rows, length, count);
       }
     }
-    for (; n < count; ++n) General::template one<turned>(a.object(n), b.object(n), c.object(n), d.object(n), rows, length);
+    const auto one = [=](std::ptrdiff_t k) {
+      General::template one<turned>(a.object(k), b.object(k), c.object(k), d.object(k), rows, length);
+    };
+    if constexpr (!A::array && D::array && requires { typename General::InLanes; }) {
+      if (count >= kLeastVectors && length <= kMostHeld && rows <= kMostHeld / length)
+        return in_object_lanes<typename General::InLanes>(rows_for<turned>(a).object(0), b, d, rows, length, count, one);
+    }
+    for (; n < count; ++n) one(n);
   }
 };
 

@@ -15,6 +15,73 @@ void in_blocks(const T* a, Bytes row_stride, const T* x, T* d, int rows, int len
 /// The same with steps of eight for all elements of dst, from where x reaches a multiple of 16 bytes.
 void in_rows(const float* a, Bytes row_stride, const float* x, float* d, int rows, int length);
 
+// The same sums with as many objects as a register has lanes at once, for one matrix and many vectors. Both give the sum of element i
+// of `rows`; `lead` is the number of elements before x reaches a multiple of 16 bytes.
+
+struct LanesOfBlocks {
+  template <class T, class Term>
+  static ZELM_INLINE Pack<T> sum(int i, int rows, int length, int lead, Term term) {
+    const int rest = rows % 8;
+    if (rest < 4 && i >= rows - rest) return sum_in_steps<T, 8>(length, 0, Pack<T>::zero(), term);
+    return sum_in_steps<T, Pack<T>::lanes>(length, lead, Pack<T>::zero(), term);
+  }
+};
+struct LanesOfRows {
+  template <class T, class Term>
+  static ZELM_INLINE Pack<T> sum(int, int, int length, int lead, Term term) {
+    return sum_in_steps<T, 8>(length, lead, Pack<T>::zero(), term);
+  }
+};
+
+/// Matrices of up to so many elements are held with every element in all lanes, if there are vectors enough to pay for that.
+inline constexpr int kMostHeld = 256, kLeastVectors = 16;
+
+/// `one`: does a single object. Vectors go together if all begin at the same distance from a multiple of 16 bytes.
+template <class Sum, class A, class B, class D, class One>
+__attribute__((noinline)) void in_object_lanes(A matrix, B b, D d, int rows, int length, std::ptrdiff_t count, One one) {
+  using T = typename D::T;
+  using P = Pack<T>;
+  constexpr int L = P::lanes;
+  P held[kMostHeld], x[kMostHeld], z[kMostHeld];
+  for (int i = 0; i < rows; ++i)
+    for (int k = 0; k < length; ++k) held[i * length + k] = P::splat(matrix.element(i, k));
+  std::ptrdiff_t n = 0;
+  for (; n + L <= count; n += L) {
+    typename B::Object from[L];
+    typename D::Object to[L];
+    b.objects(n, L, from);
+    const int lead = elements_to_alignment<T>(from[0].base);
+    bool alike = true;
+    ZELM_UNROLL for (int l = 1; l < L; ++l) alike &= elements_to_alignment<T>(from[l].base) == lead;
+    if (!alike) {
+      for (int l = 0; l < L; ++l) one(n + l);
+      continue;
+    }
+    int k = 0;
+    for (; k + L <= length; k += L) {
+      P tile[L];
+      ZELM_UNROLL for (int l = 0; l < L; ++l) tile[l] = P::load(from[l].base + k);
+      transpose(tile);
+      ZELM_UNROLL for (int l = 0; l < L; ++l) x[k + l] = tile[l];
+    }
+    for (; k < length; ++k) x[k] = P::template gather<L>([&](int l) { return from[l].base + k; });
+    for (int i = 0; i < rows; ++i) {
+      const P* const row = held + i * length;
+      z[i] = Sum::template sum<T>(i, rows, length, lead, [&](std::ptrdiff_t e) ZELM_INLINE_LAMBDA { return row[e] * x[e]; });
+    }
+    d.objects(n, L, to);
+    int i = 0;
+    for (; i + L <= rows; i += L) {
+      P tile[L];
+      ZELM_UNROLL for (int l = 0; l < L; ++l) tile[l] = z[i + l];
+      transpose(tile);
+      ZELM_UNROLL for (int l = 0; l < L; ++l) tile[l].store(to[l].base + i);
+    }
+    for (; i < rows; ++i) z[i].template scatter<L>([&](int l) { return to[l].base + i; });
+  }
+  for (; n < count; ++n) one(n);
+}
+
 /// y of a product to which nothing is added.
 struct None {
   static constexpr bool array = false, plain = true;

@@ -54,6 +54,43 @@ struct Batched {
   }
 };
 
+/// As in_blocks: the first `lead` products are added before the lanes of those that follow, then comes what is left. -1: no lanes.
+template <int lead>
+struct Led {
+  template <int N, class Product>
+  static ZELM_INLINE auto sum(int i, Product p) {
+    using P = decltype(p(0));
+    constexpr int L = P::lanes, packed = lead < 0 || N < 4 ? 0 : (N - lead) / L * L;
+    if constexpr (packed == 0) {
+      return Ascending::sum<N>(i, p);
+    } else {
+      P lane[L] = {Ascending::sum<lead + 1>(i, p)};
+      ZELM_UNROLL for (int l = 1; l < L; ++l) lane[l] = p(lead + l);
+      ZELM_UNROLL for (int k = L; k < packed; ++k) lane[k % L] = lane[k % L] + p(lead + k);
+      P s;
+      if constexpr (L == 2) s = lane[0] + lane[1];
+      else s = (lane[0] + lane[2]) + (lane[1] + lane[3]);
+      ZELM_UNROLL for (int k = lead + packed; k < N; ++k) s = s + p(k);
+      return s;
+    }
+  }
+};
+
+/// The order that in_blocks has where x begins; sums from +0.
+struct AsBlocks {};
+
+template <class Order, int N, class X, class Body>
+ZELM_INLINE void with_order(const X& x, Body body) {
+  if constexpr (!std::is_same_v<Order, AsBlocks>) return body(Order{});
+  else if constexpr (N < 4) return body(Ascending{});
+  else switch (elements_to_alignment<typename X::T>(x.at(0, 0))) {
+      case 0: return body(Led<0>{});
+      case 1: return body(Led<1>{});
+      case 2: return body(Led<2>{});
+      default: return body(Led<-1>{});  // fewer than four remain behind three
+    }
+}
+
 // Lanes are objects
 
 /// The one operand of a call in every lane; of an array nothing yet.
@@ -196,6 +233,8 @@ requires(!View::array) struct Factors<N, View> {
   ZELM_INLINE const auto& at(std::ptrdiff_t) const { return all; }
 };
 
+inline constexpr auto plus = [](auto a, auto b) ZELM_INLINE_LAMBDA { return a + b; };
+
 /// Rows of `columns` are columns of op(A).
 template <class Order, int N, class Columns, class B, class C, class D>
 __attribute__((noinline)) void in_columns(Columns columns, B b, C c, D d, int count) {
@@ -211,10 +250,12 @@ __attribute__((noinline)) void in_columns(Columns columns, B b, C c, D d, int co
     const auto& x = factors.at(n);
     R column[N], z;
     ZELM_UNROLL for (int k = 0; k < N; ++k) column[k] = m.template row<N>(k);
-    ZELM_UNROLL for (int q = 0; q < R::packs; ++q) z.pack[q] =
-        Order::template sum<N>(q * Pack<typename D::T>::lanes, [&](int k) { return column[k].pack[q] * x.e[k]; });
-    if constexpr (!std::is_same_v<C, None>)
-      z = lanewise([](auto s, auto y) { return s + y; }, z, addends.object(n).template row<N>(0));
+    with_order<Order, N>(b.object(n), [&](auto order) ZELM_INLINE_LAMBDA {
+      ZELM_UNROLL for (int q = 0; q < R::packs; ++q) z.pack[q] = decltype(order)::template sum<N>(
+          q * Pack<typename D::T>::lanes, [&](int k) ZELM_INLINE_LAMBDA { return column[k].pack[q] * x.e[k]; });
+    });
+    if constexpr (std::is_same_v<Order, AsBlocks>) z = lanewise(plus, z, R::splat(0));
+    if constexpr (!std::is_same_v<C, None>) z = lanewise(plus, z, addends.object(n).template row<N>(0));
     d.object(n).set_row(0, z);
   }
 }
@@ -299,8 +340,7 @@ __attribute__((noinline)) void in_pairs(A a, B b, C c, D d, int count) {
     R z;
     ZELM_UNROLL for (int q = 0; q < R::packs; ++q) z.pack[q] =
         evens_and_odds(s[2 * q], s[2 * q + 1 < M::groups ? 2 * q + 1 : 2 * q]);
-    if constexpr (!std::is_same_v<C, None>)
-      z = lanewise([](auto sum, auto y) { return sum + y; }, z, addends.object(n).template row<N>(0));
+    if constexpr (!std::is_same_v<C, None>) z = lanewise(plus, z, addends.object(n).template row<N>(0));
     d.object(n).set_row(0, z);
   }
 }

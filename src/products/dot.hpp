@@ -22,13 +22,6 @@ ZelStatus p8_ownmDotProduct_vav_32f_6x1_P8(const float* pSrc1, int src1Stride0, 
 
 namespace zelm::products {
 
-ZELM_INLINE bool aligned(const void* p) { return reinterpret_cast<std::uintptr_t>(p) % 16 == 0; }
-
-template <class View>
-ZELM_INLINE bool aligned_vectors(const View& view) {
-  return aligned(view.first) && view.stride0 % 16 == 0;
-}
-
 /// Arrays below this number of vectors are no batch, however they lie.
 inline constexpr int kLeastBatch = 5;
 
@@ -45,7 +38,7 @@ struct InOrder {
 struct AlignedPairs {
   template <int N, class Terms, class T>
   static ZELM_INLINE void run(const Terms& terms, T* d, int count) {
-    const bool batch = N > 3 && count >= kLeastBatch && aligned_vectors(terms.a) && aligned_vectors(terms.b) && aligned(d);
+    const bool batch = N > 3 && count >= kLeastBatch && aligned_objects(terms.a) && aligned_objects(terms.b) && aligned(d);
     if (!batch) return InOrder::run<N>(terms, d, count);
     if constexpr (std::is_same_v<T, double>) {
       reduce_fixed<N>(terms, d, count, Sums<Paired, Ascending>{});
@@ -64,7 +57,7 @@ struct AlignedVectors {
   static ZELM_INLINE void run(const Terms& terms, T* d, int count) {
     constexpr bool single = std::is_same_v<T, float>;
     if (N == 4 && (single || aligned(d))) return reduce_fixed<N>(terms, d, count, Sums<Paired, Ascending>{});
-    const bool batch = N > 4 && count >= kLeastBatch && aligned_vectors(terms.a) && aligned(d);
+    const bool batch = N > 4 && count >= kLeastBatch && aligned_objects(terms.a) && aligned(d);
     if (!batch) return InOrder::run<N>(terms, d, count);
     if constexpr (!single) {
       reduce_fixed<N>(terms, d, count, Sums<Paired, Ascending>{});
@@ -102,7 +95,7 @@ ZELM_INLINE ZelStatus dot(A a, B b, typename A::T* d, int width, int count) {
     case 4: Policy::template run<4>(terms, d, count); break;
     case 5: Policy::template run<5>(terms, d, count); break;
     case 6: Policy::template run<6>(terms, d, count); break;
-    default: reduce_any(terms, d, width, count, [](auto sum) ZELM_INLINE_LAMBDA { return sum; });
+    default: reduce_wide(terms, d, width, count, [](auto sum) ZELM_INLINE_LAMBDA { return sum; });
   }
   return zelStsOk;
 }

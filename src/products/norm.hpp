@@ -60,12 +60,13 @@ ZELM_INLINE ZelStatus euclidean(View a, typename View::T* d, int width, int coun
     case 4: euclidean_fixed<4>(squares, d, count); break;
     case 5: euclidean_fixed<5>(squares, d, count); break;
     case 6: euclidean_fixed<6>(squares, d, count); break;
-    default: reduce_any(squares, d, width, count, Root{});
+    default: reduce_wide(squares, d, width, count, Root{});
   }
   return zelStsOk;
 }
 
-// Frobenius norms. Fixed orders: the squares of every column are added, rows ascending, and then the sums of the columns in pairs.
+// Frobenius norms. Fixed orders: the squares of every column are added, rows ascending, and then the sums of the columns in pairs; in
+// arrays of matrices without gaps, those of every fourth element of a run of floats and of every second one of a run of doubles.
 // The others: one accumulator with as many lanes as a register, for the whole matrix; a square alone goes into lane 0, eight at once
 // go into all of them.
 
@@ -88,15 +89,19 @@ ZELM_INLINE Row<typename Object::T, N> column_sums(const Object& a) {
   return sum;
 }
 
-/// The same of a 3 x 3 matrix of floats without gaps: its rows are read as four elements, of which one belongs to a neighbour, and
-/// the lane behind the columns holds what comes of that.
-template <class Object>
-ZELM_INLINE Row<float, 3> column_sums_of_nine(const Object& a) {
-  using P = Pack<float>;
-  const float* const p = a.at(0, 0);
-  const P r0 = P::load(p), r1 = P::load(p + 3), end = P::load(p + 5);
-  const P r2 = {shuffle<0x39>(end.raw, end.raw)};
-  return {{(r0 * r0 + r1 * r1) + r2 * r2}};
+/// Sums of the squares of every element, of every fourth one or of every second one that follow one another in a run of n.
+template <int n, class T>
+ZELM_INLINE Pack<T> run_sums(const T* p) {
+  const auto run = Row<T, n>::load(p);
+  Pack<T> sum = run.pack[0] * run.pack[0];
+  ZELM_UNROLL for (int q = 1; q < Row<T, n>::packs; ++q) sum = sum + run.pack[q] * run.pack[q];
+  return sum;
+}
+
+/// (l0 + l1) + (l2 + l3), or l0 + l1, of as many packs as a register has lanes.
+ZELM_INLINE Pack<float> sums_of_lanes(const Pack<float> (&s)[4]) { return pairs_to_lanes(s[0], s[1], s[2], s[3]); }
+ZELM_INLINE Pack<double> sums_of_lanes(const Pack<double> (&s)[2]) {
+  return Pack<double>{shuffle<0>(s[0].raw, s[1].raw)} + Pack<double>{shuffle<3>(s[0].raw, s[1].raw)};
 }
 
 template <int N, class Object>
@@ -110,23 +115,27 @@ ZELM_INLINE typename Object::T norm_of(const Object& a) {
   return RootOfPairs::of(sums);
 }
 
-/// Blocks of as many objects as a register has lanes. `nine`: 3 x 3 floats without gaps between rows.
-template <int N, bool nine, class View>
+/// Blocks of as many objects as a register has lanes. `run`: there are no gaps between rows.
+template <int N, bool run, class View>
 __attribute__((noinline)) void norms_fixed(View a, typename View::T* d, std::ptrdiff_t count) {
   using T = typename View::T;
   constexpr int L = Pack<T>::lanes;
   for_blocks<L>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
     typename View::Object objects[L];
     a.objects(k, valid, objects);
-    Block<T, L, N> sums;
-    ZELM_UNROLL for (int l = 0; l < L; ++l) {
-      if constexpr (nine) sums.rows[l] = column_sums_of_nine(objects[l]);
-      else sums.rows[l] = column_sums<N>(objects[l]);
+    Pack<T> roots;
+    if constexpr (run) {
+      Pack<T> sums[L];
+      ZELM_UNROLL for (int l = 0; l < L; ++l) sums[l] = run_sums<N * N>(objects[l].base);
+      roots = Root{}(sums_of_lanes(sums));
+    } else {
+      Block<T, L, N> sums;
+      ZELM_UNROLL for (int l = 0; l < L; ++l) sums.rows[l] = column_sums<N>(objects[l]);
+      const Block<T, N, L> turned = transposed(sums);
+      Pack<T> e[N];
+      ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = turned.rows[j].pack[0];
+      roots = RootOfPairs::of(e);
     }
-    const Block<T, N, L> turned = transposed(sums);
-    Pack<T> e[N];
-    ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = turned.rows[j].pack[0];
-    const Pack<T> roots = RootOfPairs::of(e);
     if constexpr (std::is_same_v<decltype(valid), int>) {
       alignas(16) T lanes[L];
       roots.store(lanes);
@@ -259,15 +268,15 @@ struct To5 {
 struct From3To6 {
   template <class View>
   static ZELM_INLINE bool run(const View& a, int order, typename View::T* d, int count) {
-    constexpr bool nine = std::is_same_v<typename View::T, float>;
+    const auto fixed = [&]<int N>() {
+      if (a.row_stride == N * Bytes(sizeof(typename View::T))) norms_fixed<N, true>(a, d, count);
+      else norms_fixed<N, false>(a, d, count);
+    };
     switch (order) {
-      case 3:
-        if (nine && a.row_stride == 3 * Bytes(sizeof(typename View::T))) norms_fixed<3, nine>(a, d, count);
-        else norms_fixed<3, false>(a, d, count);
-        return true;
-      case 4: return norms_fixed<4, false>(a, d, count), true;
-      case 5: return norms_fixed<5, false>(a, d, count), true;
-      case 6: return norms_fixed<6, false>(a, d, count), true;
+      case 3: return fixed.template operator()<3>(), true;
+      case 4: return fixed.template operator()<4>(), true;
+      case 5: return fixed.template operator()<5>(), true;
+      case 6: return fixed.template operator()<6>(), true;
     }
     return false;
   }

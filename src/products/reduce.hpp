@@ -54,6 +54,15 @@ struct Sums {
   }
 };
 
+ZELM_INLINE bool aligned(const void* p) { return reinterpret_cast<std::uintptr_t>(p) % 16 == 0; }
+
+/// True if every object is known to begin at a multiple of 16 bytes: not of lists.
+template <class View>
+ZELM_INLINE bool aligned_objects(const View& view) {
+  if constexpr (requires { view.first; }) return aligned(view.first) && (!View::array || view.stride0 % 16 == 0);
+  else return false;
+}
+
 /// Where the packed part of an object's sum begins.
 template <class Object>
 ZELM_INLINE int lead_of(const Object& object) {
@@ -83,7 +92,6 @@ struct ProductsOf {
     return lanewise(Times{}, x.template row<N>(0), y.template row<N>(0));
   }
   ZELM_INLINE int lead() const { return lead_of(y); }
-  ZELM_INLINE std::uintptr_t start() const { return reinterpret_cast<std::uintptr_t>(y.at(0, 0)); }
 };
 
 template <class X>
@@ -107,7 +115,6 @@ struct SquaresOf {
     return lanewise(Times{}, r, r);
   }
   ZELM_INLINE int lead() const { return lead_of(x); }
-  ZELM_INLINE std::uintptr_t start() const { return reinterpret_cast<std::uintptr_t>(x.at(0, 0)); }
 };
 
 /// Element j of the objects k, k + 1, ... of an interleaved array, or of the one object.
@@ -118,7 +125,7 @@ ZELM_INLINE auto beside(const View& view, std::ptrdiff_t k, int i, int j) {
   else return Pack<T>::splat(view.object(0).element(i, j));
 }
 
-/// Pack q of the four vectors of three elements that begin with object k of an array without gaps.
+/// Pack q of the vectors of three elements that begin with object k of an array without gaps.
 template <class View>
 ZELM_INLINE auto packed(const View& view, std::ptrdiff_t k, int q) {
   return Pack<typename View::T>::load(view.first + k * 3 + q * Pack<typename View::T>::lanes);
@@ -129,8 +136,7 @@ template <class A, class B>
 struct Products {
   using T = typename A::T;
   using Object = ProductsOf<typename A::Object, typename B::Object>;
-  static constexpr bool array = A::array, plain = A::Object::plain;
-  static constexpr bool packable = A::plain && std::is_same_v<T, float>;
+  static constexpr bool array = A::array, plain = A::Object::plain, packable = A::plain;
   A a;
   B b;
 
@@ -145,6 +151,8 @@ struct Products {
   }
   ZELM_INLINE bool interleaved() const { return a.interleaved() && (!B::array || b.interleaved()); }
   ZELM_INLINE bool tight(int n) const { return a.tight(1, n) && (!B::array || b.tight(1, n)); }
+  /// True if no object is known to have leading terms.
+  ZELM_INLINE bool led_by_none() const { return aligned_objects(b); }
   ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k, int j) const { return beside(a, k, 0, j) * beside(b, k, 0, j); }
 
   /// Rows of the terms of N elements for as many objects as a register has lanes. The single vector is read once.
@@ -165,15 +173,16 @@ struct Products {
       };
     }
   }
-  /// The same of four vectors of three elements without gaps.
+  /// The same of vectors of three elements without gaps, in three packs.
   ZELM_INLINE auto runs() const {
     if constexpr (B::array) {
       return [a = a, b = b](std::ptrdiff_t k, int q) ZELM_INLINE_LAMBDA { return packed(a, k, q) * packed(b, k, q); };
     } else {
       const auto y = b.object(0);
-      alignas(16) T repeated[12];
-      for (int e = 0; e < 12; ++e) repeated[e] = y.element(0, e % 3);
-      return [a = a, p0 = Pack<T>::load(repeated), p1 = Pack<T>::load(repeated + 4), p2 = Pack<T>::load(repeated + 8)](
+      constexpr int L = Pack<T>::lanes;
+      alignas(16) T repeated[3 * L];
+      for (int e = 0; e < 3 * L; ++e) repeated[e] = y.element(0, e % 3);
+      return [a = a, p0 = Pack<T>::load(repeated), p1 = Pack<T>::load(repeated + L), p2 = Pack<T>::load(repeated + 2 * L)](
                  std::ptrdiff_t k, int q) ZELM_INLINE_LAMBDA {
         return packed(a, k, q) * (q == 0 ? p0 : q == 1 ? p1 : p2);
       };
@@ -186,8 +195,7 @@ template <class A>
 struct Squares {
   using T = typename A::T;
   using Object = SquaresOf<typename A::Object>;
-  static constexpr bool array = A::array, plain = A::Object::plain;
-  static constexpr bool packable = A::plain && std::is_same_v<T, float>;
+  static constexpr bool array = A::array, plain = A::Object::plain, packable = A::plain;
   A a;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {a.object(k)}; }
@@ -199,6 +207,7 @@ struct Squares {
   }
   ZELM_INLINE bool interleaved() const { return a.interleaved(); }
   ZELM_INLINE bool tight(int n) const { return a.tight(1, n); }
+  ZELM_INLINE bool led_by_none() const { return aligned_objects(a); }
   ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k, int j) const {
     const Pack<T> x = beside(a, k, 0, j);
     return x * x;
@@ -307,51 +316,17 @@ ZELM_INLINE void reduce_fixed(const Terms& terms, typename Terms::T* d, int coun
 
 // Any width
 
-/// EightLanes for terms that do not come in packs. V: an element, or a pack with one object in each lane.
-template <class T, class V>
-struct EightSums {
-  V part[8] = {};
-
-  template <class Term>
-  ZELM_INLINE void add(int j, Term term) {
-    ZELM_UNROLL for (int l = 0; l < 8; ++l) part[l] = part[l] + term(j + l);
-  }
-  ZELM_INLINE V sum() const {
-    const auto& p = part;
-    if constexpr (std::is_same_v<T, float>) return ((p[0] + p[4]) + (p[2] + p[6])) + ((p[1] + p[5]) + (p[3] + p[7]));
-    else return ((p[0] + p[2]) + (p[4] + p[6])) + ((p[1] + p[3]) + (p[5] + p[7]));
-  }
-};
-
-/// Leading terms one by one, but only if eight remain behind them; then eights; then the rest.
-/// eights(first, j) adds those from j on to what lane 0 starts from, and moves j behind them.
-template <class V, class Term, class Eights>
-ZELM_INLINE V sum_by_eights(int width, int lead, Term term, Eights eights) {
-  V sum = {};
-  int j = 0;
-  if (lead >= 0 && width - lead >= 8) {
-    for (; j < lead; ++j) sum = sum + term(j);
-    sum = eights(sum, j);
-  }
-  for (; j < width; ++j) sum = sum + term(j);
-  return sum;
-}
-
 template <class Object>
 __attribute__((noinline)) typename Object::T sum_of(Object object, int width) {
   using T = typename Object::T;
   const auto one = [&](int j) ZELM_INLINE_LAMBDA { return object.one(j); };
-  return sum_by_eights<T>(width, object.lead(), one, [&](T first, int& j) ZELM_INLINE_LAMBDA {
-    if constexpr (Object::plain) {
+  if constexpr (!Object::plain) return sum_in_steps<T, 8>(width, object.lead(), T(0), one);
+  else
+    return sum_in_steps<8>(width, object.lead(), T(0), one, [&](T first, int& j) ZELM_INLINE_LAMBDA {
       EightLanes<T> eight(first);
       for (; j + 8 <= width; j += 8) eight.add(j, [&](int e) ZELM_INLINE_LAMBDA { return object.pack(e); });
       return eight.sum();
-    } else {
-      EightSums<T, T> eight{{first}};
-      for (; j + 8 <= width; j += 8) eight.add(j, one);
-      return eight.sum();
-    }
-  });
+    });
 }
 
 /// The same of as many objects as a register has lanes, none of which has leading terms: the lanes of all are added at once, and
@@ -363,14 +338,16 @@ ZELM_INLINE Pack<typename Object::T> sums_of(const Object (&objects)[L], int wid
   P sum = P::zero(), columns[L];
   int j = 0;
   if (width >= 8) {
-    ZELM_UNROLL for (int l = 0; l < L; ++l) {
-      EightLanes<T> eight;
-      for (j = 0; j + 8 <= width; j += 8) eight.add(j, [&](int e) ZELM_INLINE_LAMBDA { return objects[l].aligned_pack(e); });
-      columns[l] = eight.lanes();
-    }
+    const auto term = [&](int l) ZELM_INLINE_LAMBDA {
+      return [&objects, l](int e) ZELM_INLINE_LAMBDA { return objects[l].aligned_pack(e); };
+    };
+    EightLanes<T> eight[L];
+    ZELM_UNROLL for (int l = 0; l < L; ++l) eight[l].start(0, term(l));
+    ZELM_AS_IT_STANDS for (j = 8; j + 8 <= width; j += 8) { ZELM_UNROLL for (int l = 0; l < L; ++l) eight[l].add(j, term(l)); }
+    ZELM_UNROLL for (int l = 0; l < L; ++l) columns[l] = eight[l].lanes();
     transpose(columns);
-    if constexpr (L == 2) sum = columns[0] + columns[1];
-    else sum = (columns[0] + columns[2]) + (columns[1] + columns[3]);
+    if constexpr (L == 2) sum = sum + (columns[0] + columns[1]);
+    else sum = sum + ((columns[0] + columns[2]) + (columns[1] + columns[3]));
   }
   for (; j + L <= width; j += L) {
     ZELM_UNROLL for (int l = 0; l < L; ++l) columns[l] = objects[l].pack(j);
@@ -385,40 +362,44 @@ ZELM_INLINE Pack<typename Object::T> sums_of(const Object (&objects)[L], int wid
   return sum;
 }
 
-/// finish(sum): the result, of an element or of a pack.
-template <class Terms, class Finish>
-__attribute__((noinline)) void reduce_any(Terms terms, typename Terms::T* d, int width, std::ptrdiff_t count, Finish finish) {
+/// finish(sum): the result, of an element or of a pack. W: the width if it is known, else 0.
+template <int W = 0, class Terms, class Finish>
+__attribute__((noinline)) void reduce_any(Terms terms, typename Terms::T* d, int any_width, std::ptrdiff_t count,
+                                          Finish finish) {
   using P = Pack<typename Terms::T>;
   constexpr int L = P::lanes;
+  const int width = W > 0 ? W : any_width;
   std::ptrdiff_t k = 0;
-  const auto one = [&](const auto& object) ZELM_INLINE_LAMBDA { store(d + k, finish(sum_of(object, width))); };
   if constexpr (Terms::array && Terms::plain) {
-    while (k + L <= count) {
+    const bool led_by_none = width < 8 || terms.led_by_none();
+    for (; k + L <= count; k += L) {
       typename Terms::Object objects[L];
       terms.objects(k, objects);
-      std::uintptr_t starts = 0;
-      ZELM_UNROLL for (int l = 0; l < L; ++l) starts |= objects[l].start();
-      if (starts % 16 == 0 || width < 8) {
-        finish(sums_of(objects, width)).store(d + k);
-        k += L;
-      } else {
-        for (const std::ptrdiff_t end = k + L; k < end; ++k) one(terms.object(k));
-      }
+      int leading = 0;
+      if (!led_by_none) ZELM_UNROLL for (int l = 0; l < L; ++l) leading |= objects[l].lead();
+      if (leading == 0) finish(sums_of(objects, width)).store(d + k);
+      else
+        for (int l = 0; l < L; ++l) store(d + k + l, finish(sum_of(terms.object(k + l), width)));
     }
   } else if constexpr (Terms::array) {
     if (terms.interleaved()) {
       const int lead = terms.object(0).lead();
       for (; k + L <= count; k += L) {
         const auto lanes = [&](int j) ZELM_INLINE_LAMBDA { return terms.lanes(k, j); };
-        finish(sum_by_eights<P>(width, lead, lanes, [&](P first, int& j) ZELM_INLINE_LAMBDA {
-          EightSums<typename Terms::T, P> eight{{first}};
-          for (; j + 8 <= width; j += 8) eight.add(j, lanes);
-          return eight.sum();
-        })).store(d + k);
+        finish(sum_in_steps<typename Terms::T, 8>(width, lead, P::zero(), lanes)).store(d + k);
       }
     }
   }
-  for (; k < count; ++k) one(terms.object(k));
+  for (; k < count; ++k) store(d + k, finish(sum_of(terms.object(k), width)));
+}
+
+/// All widths but 3 to 6. Of vectors as short as 16 elements a loop of unknown length takes longer than the sums.
+template <class Terms, class Finish>
+ZELM_INLINE void reduce_wide(const Terms& terms, typename Terms::T* d, int width, int count, Finish finish) {
+  if constexpr (Terms::array && Terms::plain) {
+    if (width == 16) return reduce_any<16>(terms, d, width, count, finish);
+  }
+  reduce_any(terms, d, width, count, finish);
 }
 
 }  // namespace zelm::products

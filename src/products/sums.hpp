@@ -43,6 +43,11 @@ struct EightLanes {
     ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = part[p] - a(k + p * L) * b(k + p * L);
   }
 
+  /// Starts from the terms themselves, which takes no additions; what comes of it is the sum from 0 on once 0 is added.
+  template <class Term>
+  ZELM_INLINE void start(int k, Term term) {
+    ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = term(k + p * L);
+  }
   /// The same of terms that are products already.
   template <class Term>
   ZELM_INLINE void add(int k, Term term) {
@@ -56,5 +61,60 @@ struct EightLanes {
   }
   ZELM_INLINE T sum() const { return sum_of_lanes(lanes()); }
 };
+
+/// Term k in place k mod `step` of as many packs as that takes, for terms that do not come in packs; summed as EightLanes are.
+/// V: an element, or a pack with one object in each lane.
+template <class T, int step, class V>
+struct StepSums {
+  static constexpr int L = Pack<T>::lanes, packs = step / L;
+  V part[step];
+
+  template <class Term>
+  ZELM_INLINE void add(std::ptrdiff_t k, Term term) {
+    ZELM_UNROLL for (int l = 0; l < step; ++l) part[l] = part[l] + term(k + l);
+  }
+  /// Lane l of the packs added up.
+  ZELM_INLINE V lane(int l) const {
+    if constexpr (packs == 1) return part[l];
+    else if constexpr (packs == 2) return part[l] + part[l + L];
+    else return (part[l] + part[l + L]) + (part[l + 2 * L] + part[l + 3 * L]);
+  }
+  ZELM_INLINE V sum() const {
+    if constexpr (L == 2) return lane(0) + lane(1);
+    else return (lane(0) + lane(2)) + (lane(1) + lane(3));
+  }
+};
+
+/// Leading terms one by one, but only if a whole step remains behind them; then steps; then the rest. A lead of -1: one by one.
+/// steps(first, k) adds whole steps from k on to what lane 0 starts from, and moves k behind them.
+template <int step, class V, class Term, class Steps>
+ZELM_INLINE V sum_in_steps(int length, int lead, V zero, Term term, Steps steps) {
+  V sum = zero;
+  int k = 0;
+  if (lead >= 0 && length - lead >= step) {
+    for (; k < lead; ++k) sum = sum + term(k);
+    sum = steps(sum, k);
+  }
+  for (; k < length; ++k) sum = sum + term(k);
+  return sum;
+}
+template <class T, int step, class V, class Term>
+ZELM_INLINE V sum_in_steps(int length, int lead, V zero, Term term) {
+  return sum_in_steps<step>(length, lead, zero, term, [&](V first, int& k) ZELM_INLINE_LAMBDA {
+    StepSums<T, step, V> sums;
+    sums.part[0] = first;
+    ZELM_UNROLL for (int l = 1; l < step; ++l) sums.part[l] = zero;
+    const auto turn = [&]<int n>(std::integral_constant<int, n>) ZELM_INLINE_LAMBDA {
+      ZELM_AS_IT_STANDS for (; k + n <= length; k += n) {
+        std::ptrdiff_t from = k;
+        __asm__("" : "+r"(from));  // a compiler that knows it to be a multiple forms every address apart, with OR
+        ZELM_UNROLL for (int s = 0; s < n; s += step) sums.add(from + s, term);
+      }
+    };
+    if constexpr (step < 8) turn(std::integral_constant<int, 8>{});
+    turn(std::integral_constant<int, step>{});
+    return sums.sum();
+  });
+}
 
 }  // namespace zelm::products

@@ -26,11 +26,17 @@ __attribute__((noinline)) void sum_diagonals(View a, typename View::T* d, int or
 
 template <class View>
 ZELM_INLINE ZelStatus trace(View a, int order, typename View::T* d, int count) {
+  const auto fixed = [&]<int N>() {
+    if constexpr (View::plain && View::array) {
+      if (a.tight(N, N)) return sum_diagonals<N>(a.template as_tight<N, N>(), d, order, count);
+    }
+    sum_diagonals<N>(a, d, order, count);
+  };
   switch (order) {
-    case 3: sum_diagonals<3>(a, d, order, count); break;
-    case 4: sum_diagonals<4>(a, d, order, count); break;
-    case 5: sum_diagonals<5>(a, d, order, count); break;
-    case 6: sum_diagonals<6>(a, d, order, count); break;
+    case 3: fixed.template operator()<3>(); break;
+    case 4: fixed.template operator()<4>(); break;
+    case 5: fixed.template operator()<5>(); break;
+    case 6: fixed.template operator()<6>(); break;
     default: sum_diagonals<0>(a, d, order, count);
   }
   return zelStsOk;

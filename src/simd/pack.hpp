@@ -196,16 +196,22 @@ struct Pack<double> {
   friend ZELM_INLINE __m128i to_int32(Pack a) { return _mm_cvttpd_epi32(a.raw); }
 };
 
-/// Lane l in all lanes; l is a constant once loops are unrolled. PSHUFD leaves its source as it is, which saves a copy.
+/// PSHUFD by name, of numbers of either size: it leaves its source as it is, which saves a copy.
+template <int control, class Raw>
+ZELM_INLINE Raw shuffled(Raw a) {
+  Raw r;
+  __asm__("pshufd %2, %1, %0" : "=x"(r) : "x"(a), "i"(control));
+  return r;
+}
+
+/// Lane l in all lanes; l is a constant once loops are unrolled.
 ZELM_INLINE Pack<float> spread_lane(Pack<float> p, int l) {
-  __m128 r;
   switch (l) {
-    case 0: __asm__("pshufd $0x00, %1, %0" : "=x"(r) : "x"(p.raw)); break;
-    case 1: __asm__("pshufd $0x55, %1, %0" : "=x"(r) : "x"(p.raw)); break;
-    case 2: __asm__("pshufd $0xaa, %1, %0" : "=x"(r) : "x"(p.raw)); break;
-    default: __asm__("pshufd $0xff, %1, %0" : "=x"(r) : "x"(p.raw)); break;
+    case 0: return {shuffled<0x00>(p.raw)};
+    case 1: return {shuffled<0x55>(p.raw)};
+    case 2: return {shuffled<0xaa>(p.raw)};
+    default: return {shuffled<0xff>(p.raw)};
   }
-  return {r};
 }
 
 /// A destination of this many bytes and more is written past the caches, where it is overwritten as a whole and no source lies in
