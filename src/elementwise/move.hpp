@@ -131,7 +131,7 @@ void copy_any(S s, D d, int rows, int columns, std::ptrdiff_t first, std::ptrdif
       else copy_rows<false>(s, d, rows, first, count, copy_row);
     } else {
       const auto copy_row = [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
-        run_packs(First{}, Elements{from.at(i, 0)}, Same<T>{}, to.at(i, 0), columns);
+        run_packs(First{}, Elements{from.at(i, 0)}, Same<T>{0}, to.at(i, 0), columns);
       };
       if (rows == 1) copy_rows<true>(s, d, rows, first, count, copy_row);
       else copy_rows<false>(s, d, rows, first, count, copy_row);
@@ -270,7 +270,10 @@ void fill_repeated(const Pattern<T>& pattern, T* d, std::ptrdiff_t n) {
   constexpr int L = Pack<T>::lanes;
   const int packs = Q > 0 ? Q : pattern.packs;
   Pack<T> held[std::max(Q, 1)];
-  ZELM_UNROLL for (int q = 0; q < Q; ++q) held[q] = Pack<T>::load_aligned(pattern.elements + q * L);
+  ZELM_UNROLL for (int q = 0; q < Q; ++q) {
+    held[q] = Pack<T>::load_aligned(pattern.elements + q * L);
+    __asm__("" : "+x"(held[q].raw));  // else a compiler takes all of it for a copy of memory, and leaves it there
+  }
   std::ptrdiff_t e = 0;
   ZELM_AS_IT_STANDS for (const std::ptrdiff_t period = packs * L; e + period <= n; e += period) {
     if constexpr (Q > 0) {

@@ -31,9 +31,10 @@ Elements(E*) -> Elements<E>;
 template <class V>
 struct Same {
   using T = V;
-  V value;
-  ZELM_INLINE auto pack(std::ptrdiff_t) const { return Pack<V>::splat(value); }
-  ZELM_INLINE auto one(std::ptrdiff_t) const { return value; }
+  Pack<V> value;
+  explicit ZELM_INLINE Same(V v) : value(Pack<V>::splat(v)) {}
+  ZELM_INLINE auto pack(std::ptrdiff_t) const { return value; }
+  ZELM_INLINE auto one(std::ptrdiff_t) const { return value.first(); }
   ZELM_INLINE bool is_aligned() const { return false; }
   ZELM_INLINE Same as_aligned() const { return *this; }
   ZELM_INLINE bool apart(const V*, std::ptrdiff_t) const { return true; }
@@ -58,11 +59,12 @@ ZELM_INLINE auto along_row(const Object& object, int i) {
 template <int N, int q>
 ZELM_INLINE Pack<float> spread(Pack<float> values) {
   constexpr auto lane = [](int l) { return (4 * q + l) / N; };
-  return {shuffle<lane(0) | lane(1) << 2 | lane(2) << 4 | lane(3) << 6>(values.raw, values.raw)};
+  return {shuffled<lane(0) | lane(1) << 2 | lane(2) << 4 | lane(3) << 6>(values.raw)};
 }
 template <int N, int q>
 ZELM_INLINE Pack<double> spread(Pack<double> values) {
-  return {shuffle<2 * q / N | (2 * q + 1) / N << 1>(values.raw, values.raw)};
+  constexpr auto halves = [](int lane) { return lane == 0 ? 0x4 : 0xe; };
+  return {shuffled<halves(2 * q / N) | halves((2 * q + 1) / N) << 4>(values.raw)};
 }
 
 /// d may be a or b: each pack is read before it is written. Four registers in flight keep a long run busy; eight leave short
@@ -72,12 +74,14 @@ ZELM_INLINE void run_packs(Op op, A a, B b, T* d, std::ptrdiff_t n) {
   constexpr int L = Pack<T>::lanes;
   std::ptrdiff_t e = 0;
   const auto step = [&](auto packs) ZELM_INLINE_LAMBDA {
+    __asm__("" : "+r"(e));  // one index for all addresses, which a compiler that knows more of it would form apart
     ZELM_UNROLL for (int q = 0; q < packs; ++q) put<streamed>(op(a.pack(e + q * L), b.pack(e + q * L)), d + e + q * L);
     e += packs * L;
   };
-  ZELM_AS_IT_STANDS while (e + 8 * L <= n) step(std::integral_constant<int, 8>{});
+  const std::ptrdiff_t in_eights = n & -(8 * L), in_packs = n & -L;
+  ZELM_AS_IT_STANDS while (e < in_eights) step(std::integral_constant<int, 8>{});
   if (n & (4 * L)) step(std::integral_constant<int, 4>{});
-  ZELM_AS_IT_STANDS while (e + L <= n) step(std::integral_constant<int, 1>{});
+  ZELM_AS_IT_STANDS while (e < in_packs) step(std::integral_constant<int, 1>{});
   ZELM_AS_IT_STANDS for (; e < n; ++e) store(d + e, op(a.one(e), b.one(e)));
   if constexpr (streamed) _mm_sfence();
 }
