@@ -18,6 +18,7 @@
 #include <limits>
 #include <memory>
 #include <new>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -54,12 +55,28 @@ constexpr char kUsage[] =
 
 enum class Method { lu, cholesky, qr };
 
+struct Pixel {
+  int x, y;
+};
+
 struct Options {
-  std::string grid = TERRAIN_GRID, picture = "terrain.png", view = "view.png", curvature, pick;
+  std::string grid = TERRAIN_GRID, picture = "terrain.png", view = "view.png", curvature;
+  std::optional<Pixel> pick;
   Method method = Method::lu;
   int repeat = 9;
   bool help = false;
 };
+
+Pixel parse_pixel(const std::string& text) {
+  Pixel pixel;
+  const char* const end = text.data() + text.size();
+  const auto [comma, error] = std::from_chars(text.data(), end, pixel.x);
+  if (error == std::errc() && comma != end && *comma == ',') {
+    const auto [rest, second] = std::from_chars(comma + 1, end, pixel.y);
+    if (second == std::errc() && rest == end) return pixel;
+  }
+  throw std::runtime_error("--pick takes a column and a row of pixels, like 450,300, not '" + text + "'");
+}
 
 Options parse(int argc, char** argv) {
   Options options;
@@ -83,7 +100,7 @@ Options parse(int argc, char** argv) {
     } else if (argument == "--view") {
       options.view = value();
     } else if (argument == "--pick") {
-      options.pick = value();
+      options.pick = parse_pixel(value());
     } else if (argument == "--curvature") {
       options.curvature = value();
     } else if (argument == "--repeat") {
@@ -329,14 +346,12 @@ void print_times(const std::vector<Times>& times, std::size_t cells) {
   std::printf("\n\n");
 }
 
-void print_place(const View& view, const std::string& pixel) {
-  int x, y, end = 0;
-  if (std::sscanf(pixel.c_str(), "%d,%d%n", &x, &y, &end) != 2 || std::size_t(end) != pixel.size())
-    throw std::runtime_error("--pick takes a column and a row of pixels, like 450,300, not '" + pixel + "'");
-  const auto place = view.pick(x, y);
-  if (!place) throw std::runtime_error("pixel " + pixel + " shows no terrain");
-  std::printf("Pixel %d,%d: column %.2f, row %.2f of the grid, %.1f m high; %.2g m from the triangle that the pixel shows\n", x,
-              y, place->column, place->row, place->height, std::abs(place->error));
+void print_place(const View& view, Pixel pixel) {
+  const auto place = view.pick(pixel.x, pixel.y);
+  if (!place)
+    throw std::runtime_error("pixel " + std::to_string(pixel.x) + "," + std::to_string(pixel.y) + " shows no terrain");
+  std::printf("Pixel %d,%d: column %.2f, row %.2f of the grid, %.1f m high; %.2g m from the triangle that the pixel shows\n",
+              pixel.x, pixel.y, place->column, place->row, place->height, std::abs(place->error));
 }
 
 void draw_curvature(const std::string& path, const Grid& grid, const NormalEquations& equations,
@@ -408,7 +423,7 @@ void run(const Options& options) {
   std::printf("Slope and mean curvature: %s, %d x %d pixels\n", options.picture.c_str(), picture.width(), picture.height());
   std::printf("Perspective, heights times %g: %s; a call transformed its %zu vertices in %.2f ms\n", view.relief(),
               options.view.c_str(), view.vertices(), view.milliseconds());
-  if (!options.pick.empty()) print_place(view, options.pick);
+  if (options.pick) print_place(view, *options.pick);
   if (!options.curvature.empty()) draw_curvature(options.curvature, grid, equations, zelm.solutions());
 }
 
