@@ -1183,28 +1183,36 @@ ZelStatus zelmEigenValuesVectorsGetBufSize_64f(int widthHeight, int* pSize);
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A: u^H A^T = lambda u^H, so for a real value
     A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDstVectors,
     int dstStride1, int dstStride2, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A: u^H A^T = lambda u^H, so for a real value
     A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_m_32f_P(const float* const* ppSrc, int srcByteShift, float* const* ppDstVectors,
     int dstByteShift, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A: u^H A^T = lambda u^H, so for a real value
     A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDstVectors,
     int dstStride1, int dstStride2, double* pDstValuesRe, double* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A: u^H A^T = lambda u^H, so for a real value
     A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_m_64f_P(const double* const* ppSrc, int srcByteShift,
     double* const* ppDstVectors, int dstByteShift, double* pDstValuesRe, double* pDstValuesIm, int widthHeight,
     void* pBuffer);
@@ -1212,7 +1220,9 @@ ZelStatus zelmEigenValuesVectorsLeft_m_64f_P(const double* const* ppSrc, int src
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
     value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
     of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
-    gives. May return zelStsFailure, zelStsNoConvergence. */
+    gives. Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values
+    are there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk
+    for a real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
     float* pDstVectors, int dstStride0, int dstStride1, int dstStride2, float* pDstValuesRe, float* pDstValuesIm,
     int widthHeight, int count, void* pBuffer);
@@ -1220,7 +1230,9 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_32f(const float* pSrc, int srcStride0, i
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
     value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
     of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
-    gives. May return zelStsFailure, zelStsNoConvergence. */
+    gives. Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values
+    are there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk
+    for a real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1,
     int srcStride2, float* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2, float* pDstValuesRe,
     float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
@@ -1228,7 +1240,9 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_32f_L(const float* const* ppSrc, int src
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
     value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
     of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
-    gives. May return zelStsFailure, zelStsNoConvergence. */
+    gives. Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values
+    are there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk
+    for a real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
     float* const* ppDstVectors, int dstByteShift, int dstStride0, float* pDstValuesRe, float* pDstValuesIm,
     int widthHeight, int count, void* pBuffer);
@@ -1236,7 +1250,9 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_32f_P(const float* const* ppSrc, int src
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
     value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
     of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
-    gives. May return zelStsFailure, zelStsNoConvergence. */
+    gives. Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values
+    are there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk
+    for a real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
     double* pDstVectors, int dstStride0, int dstStride1, int dstStride2, double* pDstValuesRe, double* pDstValuesIm,
     int widthHeight, int count, void* pBuffer);
@@ -1244,7 +1260,9 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_64f(const double* pSrc, int srcStride0, 
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
     value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
     of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
-    gives. May return zelStsFailure, zelStsNoConvergence. */
+    gives. Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values
+    are there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk
+    for a real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1,
     int srcStride2, double* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2,
     double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
@@ -1252,7 +1270,9 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_64f_L(const double* const* ppSrc, int sr
 /** eigenvalues and unit left eigenvectors, in columns, of the transposed A[k]: u^H A^T = lambda u^H, so for a real
     value A u = lambda u. The vector of a complex pair takes its two columns: real and imaginary part of the vector
     of the first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize
-    gives. May return zelStsFailure, zelStsNoConvergence. */
+    gives. Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values
+    are there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk
+    for a real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsLeft_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
     double* const* ppDstVectors, int dstByteShift, int dstStride0, double* pDstValuesRe, double* pDstValuesIm,
     int widthHeight, int count, void* pBuffer);
@@ -1261,77 +1281,97 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_64f_P(const double* const* ppSrc, int sr
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDstVectors,
     int dstStride1, int dstStride2, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_m_32f_P(const float* const* ppSrc, int srcByteShift, float* const* ppDstVectors,
     int dstByteShift, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDstVectors,
     int dstStride1, int dstStride2, double* pDstValuesRe, double* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_m_64f_P(const double* const* ppSrc, int srcByteShift,
     double* const* ppDstVectors, int dstByteShift, double* pDstValuesRe, double* pDstValuesIm, int widthHeight,
     void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
     float* pDstVectors, int dstStride0, int dstStride1, int dstStride2, float* pDstValuesRe, float* pDstValuesIm,
     int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1,
     int srcStride2, float* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2, float* pDstValuesRe,
     float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
     float* const* ppDstVectors, int dstByteShift, int dstStride0, float* pDstValuesRe, float* pDstValuesIm,
     int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
     double* pDstVectors, int dstStride0, int dstStride1, int dstStride2, double* pDstValuesRe, double* pDstValuesIm,
     int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1,
     int srcStride2, double* const* ppDstVectors, int dstByteShift, int dstStride1, int dstStride2,
     double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues and unit right eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x. The vector of a
     complex pair takes its two columns: real and imaginary part of the vector of the first; square matrices of order
-    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. May return zelStsFailure,
-    zelStsNoConvergence. */
+    widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an eigenvalue meets a
+    complex pair to within rounding, the call ends with that object: its values are there, its vectors are left
+    alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one. May return
+    zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectorsRight_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
     double* const* ppDstVectors, int dstByteShift, int dstStride0, double* pDstValuesRe, double* pDstValuesIm,
     int widthHeight, int count, void* pBuffer);
@@ -1419,7 +1459,9 @@ ZelStatus zelmEigenValuesVectorsSym_ma_64f_P(const double* const* ppSrc, int src
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDstVectorsRight,
     int dstRightStride1, int dstRightStride2, float* pDstVectorsLeft, int dstLeftStride1, int dstLeftStride2,
     float* pDstValuesRe, float* pDstValuesIm, int widthHeight, void* pBuffer);
@@ -1427,7 +1469,9 @@ ZelStatus zelmEigenValuesVectors_m_32f(const float* pSrc, int srcStride1, int sr
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_m_32f_P(const float* const* ppSrc, int srcByteShift, float* const* ppDstVectorsRight,
     int dstRightByteShift, float* const* ppDstVectorsLeft, int dstLeftByteShift, float* pDstValuesRe,
     float* pDstValuesIm, int widthHeight, void* pBuffer);
@@ -1435,7 +1479,9 @@ ZelStatus zelmEigenValuesVectors_m_32f_P(const float* const* ppSrc, int srcByteS
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDstVectorsRight,
     int dstRightStride1, int dstRightStride2, double* pDstVectorsLeft, int dstLeftStride1, int dstLeftStride2,
     double* pDstValuesRe, double* pDstValuesIm, int widthHeight, void* pBuffer);
@@ -1443,7 +1489,9 @@ ZelStatus zelmEigenValuesVectors_m_64f(const double* pSrc, int srcStride1, int s
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_m_64f_P(const double* const* ppSrc, int srcByteShift,
     double* const* ppDstVectorsRight, int dstRightByteShift, double* const* ppDstVectorsLeft, int dstLeftByteShift,
     double* pDstValuesRe, double* pDstValuesIm, int widthHeight, void* pBuffer);
@@ -1451,7 +1499,9 @@ ZelStatus zelmEigenValuesVectors_m_64f_P(const double* const* ppSrc, int srcByte
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
     float* pDstVectorsRight, int dstRightStride0, int dstRightStride1, int dstRightStride2, float* pDstVectorsLeft,
     int dstLeftStride0, int dstLeftStride1, int dstLeftStride2, float* pDstValuesRe, float* pDstValuesIm,
@@ -1460,7 +1510,9 @@ ZelStatus zelmEigenValuesVectors_ma_32f(const float* pSrc, int srcStride0, int s
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     float* const* ppDstVectorsRight, int dstRightByteShift, int dstRightStride1, int dstRightStride2,
     float* const* ppDstVectorsLeft, int dstLeftByteShift, int dstLeftStride1, int dstLeftStride2, float* pDstValuesRe,
@@ -1469,7 +1521,9 @@ ZelStatus zelmEigenValuesVectors_ma_32f_L(const float* const* ppSrc, int srcByte
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0,
     float* const* ppDstVectorsRight, int dstRightByteShift, int dstRightStride0, float* const* ppDstVectorsLeft,
     int dstLeftByteShift, int dstLeftStride0, float* pDstValuesRe, float* pDstValuesIm, int widthHeight, int count,
@@ -1478,7 +1532,9 @@ ZelStatus zelmEigenValuesVectors_ma_32f_P(const float* const* ppSrc, int srcByte
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
     double* pDstVectorsRight, int dstRightStride0, int dstRightStride1, int dstRightStride2, double* pDstVectorsLeft,
     int dstLeftStride0, int dstLeftStride1, int dstLeftStride2, double* pDstValuesRe, double* pDstValuesIm,
@@ -1487,7 +1543,9 @@ ZelStatus zelmEigenValuesVectors_ma_64f(const double* pSrc, int srcStride0, int 
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1,
     int srcStride2, double* const* ppDstVectorsRight, int dstRightByteShift, int dstRightStride1, int dstRightStride2,
     double* const* ppDstVectorsLeft, int dstLeftByteShift, int dstLeftStride1, int dstLeftStride2,
@@ -1496,7 +1554,9 @@ ZelStatus zelmEigenValuesVectors_ma_64f_L(const double* const* ppSrc, int srcByt
 /** eigenvalues and both sets of unit eigenvectors, in columns, of the transposed A[k]: A^T x = lambda x and u^H A^T =
     lambda u^H. The vector of a complex pair takes its two columns: real and imaginary part of the vector of the
     first; square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives.
-    May return zelStsFailure, zelStsNoConvergence. */
+    Where an eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are
+    there, its vectors are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a
+    real one. May return zelStsFailure, zelStsNoConvergence. */
 ZelStatus zelmEigenValuesVectors_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0,
     double* const* ppDstVectorsRight, int dstRightByteShift, int dstRightStride0, double* const* ppDstVectorsLeft,
     int dstLeftByteShift, int dstLeftStride0, double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count,
@@ -1505,72 +1565,82 @@ ZelStatus zelmEigenValuesVectors_ma_64f_P(const double* const* ppSrc, int srcByt
 /* ---- EigenValues ---- */
 
 /** eigenvalues of the general A: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_m_32f(const float* pSrc, int srcStride1, int srcStride2, float* pDstValuesRe,
     float* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues of the general A: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_m_32f_P(const float* const* ppSrc, int srcByteShift, float* pDstValuesRe,
     float* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues of the general A: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_m_64f(const double* pSrc, int srcStride1, int srcStride2, double* pDstValuesRe,
     double* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues of the general A: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_m_64f_P(const double* const* ppSrc, int srcByteShift, double* pDstValuesRe,
     double* pDstValuesIm, int widthHeight, void* pBuffer);
 
 /** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2,
     float* pDstValuesRe, float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     float* pDstValuesRe, float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDstValuesRe,
     float* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2,
     double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     double* pDstValuesRe, double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
 /** eigenvalues of the general A[k]: real and imaginary parts, n each for every object, unsorted. A complex pair takes
-    two neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as
-    zero whatever the size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of
-    the bytes that zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
+    two neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as
+    one even where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever the
+    size of the matrix: scale it to about 1; square matrices of order n = widthHeight; pBuffer of the bytes that
+    zelmEigenValuesGetBufSize gives. May return zelStsNoConvergence. */
 ZelStatus zelmEigenValues_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDstValuesRe,
     double* pDstValuesIm, int widthHeight, int count, void* pBuffer);
 
@@ -4302,8 +4372,8 @@ ZelStatus zelmUnproject_m4v3_32f(const float* pProjection, const float* pView, c
 
 /** points of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ -
     vpMinZ)) times the inverse, taken in double, of (World * View) * Projection, divided by its fourth element.
-    Where there is no inverse nothing is written; strides of any size and sign; a count below 1 does nothing; D[k]
-    may be A[k]. May return zelStsSingular. */
+    Where there is no inverse nothing is written, and the status tells it whatever count is; strides of any size and
+    sign; a count below 1 does nothing; D[k] may be A[k]. May return zelStsSingular. */
 ZelStatus zelmUnproject_m4v3a_32f(const float* pProjection, const float* pView, const float* pWorld,
     const float* pSrc, int srcStride0, float vpWidth, float vpHeight, float vpMinZ, float vpMaxZ, float* pDst,
     int dstStride0, int count);

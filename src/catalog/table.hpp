@@ -60,7 +60,10 @@ inline constexpr std::string_view kFixedArrays = "strides of any size and sign; 
 inline constexpr std::string_view kSymmetricBuffer =
     "square matrices of order n = widthHeight; pBuffer n * n elements of the matrices' type";
 inline constexpr std::string_view kVectorBuffer =
-    "square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives";
+    "square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an "
+    "eigenvalue "
+    "meets a complex pair to within rounding, the call ends with that object: its values are there, its vectors are left "
+    "alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one";
 inline constexpr std::string_view kVectorStatuses = "zelStsFailure zelStsNoConvergence";
 
 inline constexpr Row kRows[] = {
@@ -254,7 +257,8 @@ inline constexpr Row kRows[] = {
     {"EigenValues", "m ma", "src pDstValuesRe pDstValuesIm widthHeight count pBuffer", "c*n*n+c*n",
      "251/251 251/251 251 251/251 251/251 251", "eigen", "general::values",
      "eigenvalues of the general $a: real and imaginary parts, n each for every object, unsorted. A complex pair takes two "
-     "neighbouring places, the positive imaginary part first. A subdiagonal element of at most epsilon counts as zero whatever "
+     "neighbouring places, the positive imaginary part first; a 2 x 2 block with equal diagonal elements counts as one even "
+     "where its eigenvalues are real. A subdiagonal element of at most epsilon counts as zero whatever "
      "the size of the matrix: scale it to about 1",
      "square matrices of order n = widthHeight; pBuffer of the bytes that zelmEigenValuesGetBufSize gives",
      "zelStsNoConvergence", "n*E*(3*n+5)", "", Kernels::one},
@@ -436,7 +440,7 @@ inline constexpr Row kRows[] = {
      "", "geometry", "transform::unproject_array",
      "points of the screen, y down, to the world: n = (2 x / vpWidth - 1, -2 y / vpHeight + 1, (z - vpMinZ) / (vpMaxZ - "
      "vpMinZ)) times the inverse, taken in double, of (World * View) * Projection, divided by its fourth element. Where "
-     "there is no inverse nothing is written",
+     "there is no inverse nothing is written, and the status tells it whatever count is",
      kFixedArrays, "zelStsSingular"},
     {"AffineTransform3DH", "mva", "src1 src2 dst count", "6*c", "785/785", "geometry", "homogeneous::transform",
      "column vectors: (x', y', z', w') = M (x, y, z, 1), D[k] = (x', y', z') * (1 / w'). Where |w'| is not above 2^-126, "

@@ -31,12 +31,12 @@ struct Columns {
   ZELM_INLINE void put(int i, int j, const S& x) const { store(at(i, j), x); }
 };
 
-/// sqrt(a^2 + b^2) without a large square; never tiny.
-template <class S>
+/// sqrt(a^2 + b^2) without a large square; never tiny. Wide: what the root and its product are computed in.
+template <class Wide, class S>
 ZELM_INLINE S length(const S& a, const S& b) {
   using T = ElementOf<S>;
   const S safe = Limits<T>::safe, w = larger(magnitude(a), magnitude(b)), z = smaller(magnitude(a), magnitude(b));
-  const S norm = select(exceeds(safe, z), w, w * root(z * z / (w * w) + S(T(1))));
+  const S norm = select(exceeds(safe, z), w, S(Wide(w) * root(Wide(z * z / (w * w) + S(T(1))))));
   return select(exceeds(safe, norm), S(Limits<T>::safe2), norm);
 }
 
@@ -46,7 +46,7 @@ struct Reflector {
   S beta, tau, scale;
   ZELM_INLINE Reflector(const S& alpha, const S& xnorm) {
     using T = ElementOf<S>;
-    const S norm = length(alpha, xnorm), zero = T(0);
+    const S norm = length<S>(alpha, xnorm), zero = T(0);
     beta = select(exceeds(zero, alpha), norm, zero - norm);
     tau = (beta - alpha) / beta;
     scale = S(T(1)) / (zero - (beta - alpha));
@@ -101,7 +101,9 @@ ZELM_INLINE void reduce(Columns<S> h, Columns<S> q, int n, S* w) {
     for (int i = k + 2; i < n; ++i) h.put(i, k, zero);
 }
 
-/// A 2 x 2 block, its eigenvalues a + i wi and d - i wi, and the rotation that turned it.
+/// A 2 x 2 block, its eigenvalues a + i wi and d - i wi, and the rotation that turned it. Roots are taken in double, and what is
+/// made of them in one step is rounded once: the eigenvalues of ((1, 2), (3, 1)) are 1 +- i sqrt(6) to the last bit. Reflections,
+/// whose sums lose more, stay in T for the sake of speed.
 template <class T>
 struct Pair {
   T a, b, c, d, wi = 0, cs = 1, sn = 0;
@@ -121,7 +123,7 @@ struct Pair {
     }
     const T temp = a - d;
     if (safe >= std::fabs(temp)) {
-      wi = root(std::fabs(b)) * root(std::fabs(c));
+      wi = mean(std::fabs(b), std::fabs(c));
       return;
     }
     const bool opposed = (b < 0) != (c < 0);
@@ -129,10 +131,10 @@ struct Pair {
     const T smaller = std::min(std::fabs(b), std::fabs(c)), bcmis = opposed ? -smaller : smaller;
     const T scale = std::max(std::fabs(p), bcmax), z = (p / scale) * p + (bcmax / scale) * bcmis;
     if (z >= 4 * Limits<T>::epsilon) {
-      const T radius = root(scale) * root(z), zz = p > 0 ? p + radius : p - radius;
+      const T radius = mean(scale, z), zz = p > 0 ? p + radius : p - radius;
       a = d + zz;
       d = d - bcmis * (bcmax / zz);
-      const T tau = length(c, zz);
+      const T tau = length<double>(c, zz);
       cs = zz / tau;
       sn = c / tau;
       b = b - c;
@@ -143,9 +145,11 @@ struct Pair {
   }
 
  private:
+  /// sqrt(x y) where the product might overflow.
+  static ZELM_INLINE T mean(T x, T y) { return T(root(double(x)) * root(double(y))); }
   ZELM_INLINE void turn_to_equal_diagonal(T temp, T p) {
     constexpr T safe = Limits<T>::safe;
-    const T sigma = b + c, tau = length(sigma, temp);
+    const T sigma = b + c, tau = length<double>(sigma, temp);
     cs = root((std::fabs(sigma) / tau + 1) * T(0.5));
     sn = (0 - p) / (tau * cs);
     if (sigma < 0) sn = -sn;
@@ -155,7 +159,7 @@ struct Pair {
     a = d = ((dd + aa) * cs + (cc - bb) * sn) * T(0.5);
     const bool real_c = std::fabs(c) > safe, real_b = std::fabs(b) > safe;
     if (real_c && real_b && (b < 0) != (c < 0)) {
-      wi = root(std::fabs(b)) * root(std::fabs(c));
+      wi = mean(std::fabs(b), std::fabs(c));
     } else if (real_c && real_b) {
       const T q = b < 0 ? 0 - p : p, sab = root(std::fabs(b)), sac = root(std::fabs(c)), r = 1 / root(std::fabs(b + c));
       a = a + q;

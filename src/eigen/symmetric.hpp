@@ -50,11 +50,11 @@ ZelStatus solve_pair(const Object& source, T* values, const Rules& rules, Put pu
   T u = 0, v = 1;
   if (std::fabs(w) > std::fabs(q)) {
     const T t = (0 - q) / w;
-    u = 1 / root(t * t + 1);
+    u = T(1 / root(double(t * t + 1)));
     v = t * u;
   } else if (!(epsilon >= std::fabs(q))) {
     const T t = (0 - w) / q;
-    v = 1 / root(t * t + 1);
+    v = T(1 / root(double(t * t + 1)));
     u = t * v;
   }
   const bool differ = negative != turned;

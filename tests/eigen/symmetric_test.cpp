@@ -70,12 +70,12 @@ struct Model {
     if (diff < -eps) w = diff - root, sign2 = -1;
     if (std::abs(w) > std::abs(q)) {
       const T t = (0 - q) / w;
-      u = 1 / std::sqrt(t * t + 1), v = t * u;
+      u = T(1 / std::sqrt(double(t * t + 1))), v = t * u;
     } else if (eps >= std::abs(q)) {
       u = 0, v = 1;
     } else {
       const T t = (0 - w) / q;
-      v = 1 / std::sqrt(t * t + 1), u = t * v;
+      v = T(1 / std::sqrt(double(t * t + 1))), u = t * v;
     }
     if (sign1 != sign2) z[0] = v, z[2] = u, z[1] = 0 - u, z[3] = v;
     else z[0] = 0 - u, z[2] = v, z[1] = 0 - v, z[3] = 0 - u;
