@@ -31,10 +31,11 @@ struct Columns {
   ZELM_INLINE void put(int i, int j, const S& x) const { store(at(i, j), x); }
 };
 
-/// sqrt(a^2 + b^2) without a large square; never tiny. Wide: what the root and its product are computed in.
-template <class Wide, class S>
+/// sqrt(a^2 + b^2) without a large square; never tiny. The root and its product are taken in double and rounded once.
+template <class S>
 ZELM_INLINE S length(const S& a, const S& b) {
   using T = ElementOf<S>;
+  using Wide = typename Wider<S>::Type;
   const S safe = Limits<T>::safe, w = larger(magnitude(a), magnitude(b)), z = smaller(magnitude(a), magnitude(b));
   const S norm = select(exceeds(safe, z), w, S(Wide(w) * root(Wide(z * z / (w * w) + S(T(1))))));
   return select(exceeds(safe, norm), S(Limits<T>::safe2), norm);
@@ -46,7 +47,7 @@ struct Reflector {
   S beta, tau, scale;
   ZELM_INLINE Reflector(const S& alpha, const S& xnorm) {
     using T = ElementOf<S>;
-    const S norm = length<S>(alpha, xnorm), zero = T(0);
+    const S norm = length(alpha, xnorm), zero = T(0);
     beta = select(exceeds(zero, alpha), norm, zero - norm);
     tau = (beta - alpha) / beta;
     scale = S(T(1)) / (zero - (beta - alpha));
@@ -102,8 +103,7 @@ ZELM_INLINE void reduce(Columns<S> h, Columns<S> q, int n, S* w) {
 }
 
 /// A 2 x 2 block, its eigenvalues a + i wi and d - i wi, and the rotation that turned it. Roots are taken in double, and what is
-/// made of them in one step is rounded once: the eigenvalues of ((1, 2), (3, 1)) are 1 +- i sqrt(6) to the last bit. Reflections,
-/// whose sums lose more, stay in T for the sake of speed.
+/// made of them in one step is rounded once: the eigenvalues of ((1, 2), (3, 1)) are 1 +- i sqrt(6) to the last bit.
 template <class T>
 struct Pair {
   T a, b, c, d, wi = 0, cs = 1, sn = 0;
@@ -134,7 +134,7 @@ struct Pair {
       const T radius = mean(scale, z), zz = p > 0 ? p + radius : p - radius;
       a = d + zz;
       d = d - bcmis * (bcmax / zz);
-      const T tau = length<double>(c, zz);
+      const T tau = length(c, zz);
       cs = zz / tau;
       sn = c / tau;
       b = b - c;
@@ -149,7 +149,7 @@ struct Pair {
   static ZELM_INLINE T mean(T x, T y) { return T(root(double(x)) * root(double(y))); }
   ZELM_INLINE void turn_to_equal_diagonal(T temp, T p) {
     constexpr T safe = Limits<T>::safe;
-    const T sigma = b + c, tau = length<double>(sigma, temp);
+    const T sigma = b + c, tau = length(sigma, temp);
     cs = root((std::fabs(sigma) / tau + 1) * T(0.5));
     sn = (0 - p) / (tau * cs);
     if (sigma < 0) sn = -sn;

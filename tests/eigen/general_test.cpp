@@ -23,10 +23,9 @@ struct Schur {
   T& H(int i, int j) { return h[std::size_t((j - 1) * n + i - 1)]; }
   T& Q(int i, int j) { return q[std::size_t((j - 1) * n + i - 1)]; }
 
-  template <class Wide>  // double in the blocks, T in reflections
   T norm(T a, T b) const {
     const T w = std::max(std::abs(a), std::abs(b)), z = std::min(std::abs(a), std::abs(b));
-    const T r = z < safe ? w : T(w * std::sqrt(Wide(z * z / (w * w) + 1)));
+    const T r = z < safe ? w : T(w * std::sqrt(double(z * z / (w * w) + 1)));
     return r < safe ? safe2 : r;
   }
   /// v = (alpha, x ...) becomes (beta, scaled x ...); returns tau.
@@ -34,7 +33,7 @@ struct Schur {
     T sum = 0;
     for (std::size_t i = 1; i < v.size(); ++i) sum += v[i] * v[i];
     if (std::sqrt(sum) < safe) return 0;
-    const T alpha = v[0], r = norm<T>(alpha, std::sqrt(sum)), beta = 0 - (alpha < 0 ? -r : r), scale = 1 / (0 - (beta - alpha));
+    const T alpha = v[0], r = norm(alpha, std::sqrt(sum)), beta = 0 - (alpha < 0 ? -r : r), scale = 1 / (0 - (beta - alpha));
     for (T& x : v) x *= scale;
     v[0] = beta;
     return (beta - alpha) / beta;
@@ -145,11 +144,10 @@ struct Schur {
     } else if (safe >= std::abs(temp)) {
       wi = T(std::sqrt(double(std::abs(b))) * std::sqrt(double(std::abs(c))));
     } else if (z >= 4 * eps) {
-      const T root = T(std::sqrt(double(scale)) * std::sqrt(double(z))), zz = p + (p > 0 ? root : -root),
-              tau = norm<double>(c, zz);
+      const T root = T(std::sqrt(double(scale)) * std::sqrt(double(z))), zz = p + (p > 0 ? root : -root), tau = norm(c, zz);
       a = d + zz, d = d - bcmis * (bcmax / zz), cs = zz / tau, sn = c / tau, b = b - c, c = 0;
     } else {
-      const T sigma = b + c, tau = norm<double>(sigma, temp);
+      const T sigma = b + c, tau = norm(sigma, temp);
       cs = std::sqrt((std::abs(sigma) / tau + 1) * T(0.5)), sn = (0 - p) / (tau * cs);
       if (sigma < 0) sn = -sn;
       const T aa = a * cs + b * sn, bb = b * cs - a * sn, cc = c * cs + d * sn, dd = d * cs - c * sn;
