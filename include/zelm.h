@@ -12,11 +12,14 @@
  *   _L        ppSrc[k] + byteShift + i*stride1 + j*stride2
  *   _P        ppSrc[i*columns + j] + byteShift + k*stride0     columns: those of the stored object
  * A vector is its only row; an operand without `a` has no stride0, and in _L functions keeps the standard layout.
+ * Constant k of an array of constants lies at pVal + k*valStride0, in _L functions at ppVal[k] + valByteShift.
  * Strides and byte shifts count BYTES. Strides are positive multiples of the element size, byte shifts multiples of it from 0
  * up; there is no other demand on them, nor on the alignment of any pointer.
  *
  * Every function returns zelStsOk or a negative status. Bad arguments (a null pointer, a count or size below 1, a bad stride or
  * byte shift, sizes that do not agree) are refused with nothing written; the docstrings name what else can be returned.
+ * The destination lies apart from the sources where the docstring does not say more. In Add, Sub, Saxpy, LComb and products with
+ * constants it may also be an untransposed source, with the same layout, strides and sizes.
  * In formulas k runs over the objects, i over rows, j over columns; A and B (a and b) are the sources, D (d) the destination.
  *
  * Fixed sizes: v2, v3, v4 are 2, 3, 4 consecutive floats, m4 is a matrix of 16 floats row by row, M[4*i + j]. These functions check
@@ -715,147 +718,147 @@ ZelStatus zelmCholeskyDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShi
 
 /* ---- Copy ---- */
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_LL(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_LP(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     float* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_LS(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_PL(const float* const* ppSrc, int srcByteShift, int srcStride0, float* const* ppDst,
     int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_PP(const float* const* ppSrc, int srcByteShift, int srcStride0, float* const* ppDst,
     int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_PS(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int dstStride0,
     int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_SL(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* const* ppDst,
     int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_SP(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* const* ppDst,
     int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_32f_SS(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_LL(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_LP(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_LS(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_PL(const double* const* ppSrc, int srcByteShift, int srcStride0, double* const* ppDst,
     int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_PP(const double* const* ppSrc, int srcByteShift, int srcStride0, double* const* ppDst,
     int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_PS(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_SL(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* const* ppDst,
     int dstByteShift, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_SP(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* const* ppDst,
     int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** D[k](i, j) = A[k](i, j); objects of height x width. */
+/** D[k](i, j) = A[k](i, j), bit for bit; matrices of height x width. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_ma_64f_SS(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int width, int height, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_LL(const float* const* ppSrc, int srcByteShift, int srcStride2, float* const* ppDst,
     int dstByteShift, int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_LP(const float* const* ppSrc, int srcByteShift, int srcStride2, float* const* ppDst,
     int dstByteShift, int dstStride0, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_LS(const float* const* ppSrc, int srcByteShift, int srcStride2, float* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_PL(const float* const* ppSrc, int srcByteShift, int srcStride0, float* const* ppDst,
     int dstByteShift, int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_PP(const float* const* ppSrc, int srcByteShift, int srcStride0, float* const* ppDst,
     int dstByteShift, int dstStride0, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_PS(const float* const* ppSrc, int srcByteShift, int srcStride0, float* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_SL(const float* pSrc, int srcStride0, int srcStride2, float* const* ppDst, int dstByteShift,
     int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_SP(const float* pSrc, int srcStride0, int srcStride2, float* const* ppDst, int dstByteShift,
     int dstStride0, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_32f_SS(const float* pSrc, int srcStride0, int srcStride2, float* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_LL(const double* const* ppSrc, int srcByteShift, int srcStride2, double* const* ppDst,
     int dstByteShift, int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_LP(const double* const* ppSrc, int srcByteShift, int srcStride2, double* const* ppDst,
     int dstByteShift, int dstStride0, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_LS(const double* const* ppSrc, int srcByteShift, int srcStride2, double* pDst,
     int dstStride0, int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_PL(const double* const* ppSrc, int srcByteShift, int srcStride0, double* const* ppDst,
     int dstByteShift, int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_PP(const double* const* ppSrc, int srcByteShift, int srcStride0, double* const* ppDst,
     int dstByteShift, int dstStride0, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_PS(const double* const* ppSrc, int srcByteShift, int srcStride0, double* pDst,
     int dstStride0, int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_SL(const double* pSrc, int srcStride0, int srcStride2, double* const* ppDst,
     int dstByteShift, int dstStride2, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_SP(const double* pSrc, int srcStride0, int srcStride2, double* const* ppDst,
     int dstByteShift, int dstStride0, int width, int count);
 
-/** d[k](j) = a[k](j); objects of height x width. */
+/** d[k](j) = a[k](j), bit for bit; vectors of width elements. With count 1 no stride0 is looked at. */
 ZelStatus zelmCopy_va_64f_SS(const double* pSrc, int srcStride0, int srcStride2, double* pDst, int dstStride0,
     int dstStride2, int width, int count);
 
@@ -2305,27 +2308,27 @@ ZelStatus zelmLen_v4_32f(const float* pSrc, float* pDst);
 
 /* ---- LoadIdentity ---- */
 
-/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. With count 1 stride0 is not looked at. */
 ZelStatus zelmLoadIdentity_ma_32f(float* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height,
     int count);
 
-/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. With count 1 stride0 is not looked at. */
 ZelStatus zelmLoadIdentity_ma_32f_L(float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width,
     int height, int count);
 
-/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. With count 1 stride0 is not looked at. */
 ZelStatus zelmLoadIdentity_ma_32f_P(float* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
     int count);
 
-/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. With count 1 stride0 is not looked at. */
 ZelStatus zelmLoadIdentity_ma_64f(double* pDst, int dstStride0, int dstStride1, int dstStride2, int width, int height,
     int count);
 
-/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. With count 1 stride0 is not looked at. */
 ZelStatus zelmLoadIdentity_ma_64f_L(double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int width,
     int height, int count);
 
-/** D[k](i, j) = 1 where i == j, else 0; D height x width. */
+/** D[k](i, j) = 1 where i == j, else 0; D height x width. With count 1 stride0 is not looked at. */
 ZelStatus zelmLoadIdentity_ma_64f_P(double* const* ppDst, int dstByteShift, int dstStride0, int width, int height,
     int count);
 

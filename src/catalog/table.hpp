@@ -47,6 +47,8 @@ inline constexpr std::string_view kBinary = "src1 src2 dst width height count";
 inline constexpr std::string_view kScaled = "src val dst width height count";
 inline constexpr std::string_view kMatrixShapes = "D height x width; a transposed operand is stored as width x height";
 inline constexpr std::string_view kVectorShapes = "vectors of width elements";
+inline constexpr std::string_view kCopiedMatrices = "matrices of height x width. With count 1 no stride0 is looked at";
+inline constexpr std::string_view kCopiedVectors = "vectors of width elements. With count 1 no stride0 is looked at";
 inline constexpr std::string_view kMulArguments = "src1:width1 width1 height1 src2:width2 width2 height2 dst:product count";
 inline constexpr std::string_view kMulShapes = "sources as stored: height1 x width1, height2 x width2";
 inline constexpr std::string_view kMulVectorShapes = "A height x width as stored; b src2Len elements";
@@ -126,8 +128,10 @@ inline constexpr Row kRows[] = {
      "$d_ = $a_ * val1 + $b_ * val2", kVectorShapes},
 
     // Movers: bit patterns, no arithmetic
-    {"Copy", "ma va", "src dst width height count", "", "", "elementwise", "move::copy", "$d_ = $a_",
-     "objects of height x width", "", "", "", Kernels::none},
+    {"Copy", "ma", "src dst width height count", "", "", "elementwise", "move::copy", "$d_ = $a_, bit for bit", kCopiedMatrices,
+     "", "", "", Kernels::none},
+    {"Copy", "va", "src dst width count", "", "", "elementwise", "move::copy", "$d_ = $a_, bit for bit", kCopiedVectors, "", "",
+     "", Kernels::none},
     {"Extract", "m ma", "src pDst width height count", "", "", "elementwise", "move::extract",
      "pDst[(k*height + i)*width + j] = $a_", "packed block: height x width", "", "", "", Kernels::none},
     {"Extract", "t ta", "src pDst width height count", "", "", "elementwise", "move::extract",
@@ -136,7 +140,8 @@ inline constexpr Row kRows[] = {
     {"Extract", "v va", "src pDst width count", "", "", "elementwise", "move::extract", "pDst[k*width + j] = $a_",
      kVectorShapes, "", "", "", Kernels::none},
     {"LoadIdentity", "ma", "dst width height count", "", "", "elementwise", "move::load_identity",
-     "D[k](i, j) = 1 where i == j, else 0", "D height x width", "", "", "", Kernels::none},
+     "D[k](i, j) = 1 where i == j, else 0", "D height x width. With count 1 stride0 is not looked at", "", "", "",
+     Kernels::none},
     {"Transpose", "m ma", "src width height dst:height count", "", "", "elementwise", "move::transpose",
      "D(j, i) = A(i, j) of every object", "source height x width; destination width x height"},
 

@@ -144,15 +144,11 @@ __attribute__((noinline)) void combine_any(Op op, A a, B b, D d, int rows, int c
   }
 }
 
-/// True if a store to z could change an element of x that is still to be read: z starts inside x's row, behind its start.
+/// The same of row vectors; a constant is never changed.
 template <class X, class Z>
-ZELM_INLINE bool runs_into(const X& x, const Z& z, int columns) {
-  if constexpr (requires { x.at(0, 0); }) {
-    const auto distance = reinterpret_cast<std::uintptr_t>(z.at(0, 0)) - reinterpret_cast<std::uintptr_t>(x.at(0, 0));
-    return distance - 1 < columns * sizeof(typename Z::T) - 1;
-  } else {
-    return false;
-  }
+ZELM_INLINE bool vector_runs_into(const X& x, const Z& z, int columns) {
+  if constexpr (requires { x.at(0, 0); }) return runs_into<typename Z::T>(x.at(0, 0), z.at(0, 0), columns);
+  else return false;
 }
 
 template <class Op, class A, class B, class D>
@@ -173,7 +169,7 @@ ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int 
     const auto x = a.object(0);
     const auto y = b.object(0);
     const auto z = d.object(0);
-    if (!x.plain || !y.plain || !z.plain || runs_into(x, z, width) || runs_into(y, z, width))
+    if (!x.plain || !y.plain || !z.plain || vector_runs_into(x, z, width) || vector_runs_into(y, z, width))
       return combine_in_order(op, x, y, z, 0, width);
   } else {
     if (combine_tight(op, a, b, d, 1, width, count)) return;

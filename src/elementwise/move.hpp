@@ -20,10 +20,15 @@ struct First {
   }
 };
 
-/// A long run of elements, left to the C library, which knows the processor's fastest way. s and d may coincide.
+/// A long run of elements, left to the C library, which knows the processor's fastest way. Where it would differ from the copy
+/// of one element after the other it is that copy, so that a run across rows and objects keeps their order.
 template <class T>
 ZELM_INLINE void copy_run(const T* s, T* d, std::ptrdiff_t n) {
-  std::memmove(d, s, std::size_t(n) * sizeof(T));
+  if (runs_into(s, d, n)) {
+    ZELM_AS_IT_STANDS for (std::ptrdiff_t e = 0; e < n; ++e) store(d + e, load(s + e));
+  } else {
+    std::memmove(d, s, std::size_t(n) * sizeof(T));
+  }
 }
 
 template <class T>

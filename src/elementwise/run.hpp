@@ -27,6 +27,14 @@ struct Elements {
 template <class E>
 Elements(E*) -> Elements<E>;
 
+/// True if a store to a run of n elements from d on could change one of the n from s on that is still to be read: d starts inside
+/// them, behind s.
+template <class T>
+ZELM_INLINE bool runs_into(const T* s, const T* d, std::ptrdiff_t n) {
+  const auto distance = reinterpret_cast<std::uintptr_t>(d) - reinterpret_cast<std::uintptr_t>(s);
+  return distance - 1 < std::size_t(n) * sizeof(T) - 1;
+}
+
 /// One value for the whole run.
 template <class V>
 struct Same {

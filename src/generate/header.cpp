@@ -24,11 +24,14 @@ const char* const kPreamble =
  *   _L        ppSrc[k] + byteShift + i*stride1 + j*stride2
  *   _P        ppSrc[i*columns + j] + byteShift + k*stride0     columns: those of the stored object
  * A vector is its only row; an operand without `a` has no stride0, and in _L functions keeps the standard layout.
+ * Constant k of an array of constants lies at pVal + k*valStride0, in _L functions at ppVal[k] + valByteShift.
  * Strides and byte shifts count BYTES. Strides are positive multiples of the element size, byte shifts multiples of it from 0
  * up; there is no other demand on them, nor on the alignment of any pointer.
  *
  * Every function returns zelStsOk or a negative status. Bad arguments (a null pointer, a count or size below 1, a bad stride or
  * byte shift, sizes that do not agree) are refused with nothing written; the docstrings name what else can be returned.
+ * The destination lies apart from the sources where the docstring does not say more. In Add, Sub, Saxpy, LComb and products with
+ * constants it may also be an untransposed source, with the same layout, strides and sizes.
  * In formulas k runs over the objects, i over rows, j over columns; A and B (a and b) are the sources, D (d) the destination.
  *
  * Fixed sizes: v2, v3, v4 are 2, 3, 4 consecutive floats, m4 is a matrix of 16 floats row by row, M[4*i + j]. These functions check

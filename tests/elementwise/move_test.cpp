@@ -1,6 +1,7 @@
 // Copies, packed blocks, identities and transposes: every form, type, layout and kernel, bit for bit.
 #include "elementwise/transpose_strips.hpp"
 #include "support/harness.hpp"
+#include "zelm.h"
 
 namespace zelm::test {
 namespace {
@@ -63,6 +64,17 @@ TEST_P(Moves, EverySizeMemoryAndCount) {
 INSTANTIATE_TEST_SUITE_P(All, Moves, testing::ValuesIn(family("", "move")), FunctionTest::name);
 
 TEST(Move, IsComplete) { EXPECT_EQ(family("", "move").size(), 36u + 30 + 6 + 10); }
+
+/// A run across objects keeps their order: shifted up by one vector, the first one comes everywhere.
+TEST(Move, CopyKeepsTheOrderOfObjects) {
+  constexpr int width = 3, count = 9, row = width * sizeof(float);
+  std::vector<float> up((count + 1) * width), down(up.size()), want(up.size());
+  for (std::size_t e = 0; e < up.size(); ++e) up[e] = down[e] = float(e), want[e] = float(e % width);
+  EXPECT_EQ(zelmCopy_va_32f_SS(up.data(), row, 4, up.data() + width, row, 4, width, count), zelStsOk);
+  EXPECT_EQ(up, want);
+  EXPECT_EQ(zelmCopy_va_32f_SS(down.data() + width, row, 4, down.data(), row, 4, width, count), zelStsOk);
+  for (std::size_t e = 0; e < count * width; ++e) EXPECT_EQ(down[e], float(e + width));
+}
 
 /// The strip kernels by their names; dst begins at every place in a register.
 TEST(Move, Strips) {
