@@ -971,40 +971,50 @@ ZelStatus zelmCrossProduct_vva_64f_P(const double* const* ppSrc1, int src1ByteSh
 /** *pDst = det(A), one float, expanded along the first row. */
 ZelStatus zelmDet_m4_32f(const float* pSrc, float* pDst);
 
-/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** *pDst = det(A), which need not be exactly 0 where A is singular; square matrices of order n = widthHeight; pBuffer
+    n*n elements and n ints, at any address. */
 ZelStatus zelmDet_m_32f(const float* pSrc, int srcStride1, int srcStride2, int widthHeight, void* pBuffer, float* pDst);
 
-/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** *pDst = det(A), which need not be exactly 0 where A is singular; square matrices of order n = widthHeight; pBuffer
+    n*n elements and n ints, at any address. */
 ZelStatus zelmDet_m_32f_P(const float* const* ppSrc, int srcByteShift, int widthHeight, void* pBuffer, float* pDst);
 
-/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** *pDst = det(A), which need not be exactly 0 where A is singular; square matrices of order n = widthHeight; pBuffer
+    n*n elements and n ints, at any address. */
 ZelStatus zelmDet_m_64f(const double* pSrc, int srcStride1, int srcStride2, int widthHeight, void* pBuffer,
     double* pDst);
 
-/** *pDst = det(A); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** *pDst = det(A), which need not be exactly 0 where A is singular; square matrices of order n = widthHeight; pBuffer
+    n*n elements and n ints, at any address. */
 ZelStatus zelmDet_m_64f_P(const double* const* ppSrc, int srcByteShift, int widthHeight, void* pBuffer, double* pDst);
 
-/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** pDst[k] = det(A[k]), which need not be exactly 0 where A[k] is singular; square matrices of order n = widthHeight;
+    pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
     void* pBuffer, float* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** pDst[k] = det(A[k]), which need not be exactly 0 where A[k] is singular; square matrices of order n = widthHeight;
+    pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int widthHeight, void* pBuffer, float* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** pDst[k] = det(A[k]), which need not be exactly 0 where A[k] is singular; square matrices of order n = widthHeight;
+    pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
     void* pBuffer, float* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** pDst[k] = det(A[k]), which need not be exactly 0 where A[k] is singular; square matrices of order n = widthHeight;
+    pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int widthHeight,
     void* pBuffer, double* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** pDst[k] = det(A[k]), which need not be exactly 0 where A[k] is singular; square matrices of order n = widthHeight;
+    pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int widthHeight, void* pBuffer, double* pDst, int count);
 
-/** pDst[k] = det(A[k]); square matrices of order n = widthHeight; pBuffer n*n elements and n ints, at any address. */
+/** pDst[k] = det(A[k]), which need not be exactly 0 where A[k] is singular; square matrices of order n = widthHeight;
+    pBuffer n*n elements and n ints, at any address. */
 ZelStatus zelmDet_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int widthHeight,
     void* pBuffer, double* pDst, int count);
 
@@ -2130,157 +2140,167 @@ ZelStatus zelmLComb_vv_64f_P(const double* const* ppSrc1, int src1ByteShift, dou
 
 /* ---- LUBackSubst ---- */
 
-/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; A of order widthHeight; b and
-    x widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; in orders 3 to 6 x may be b;
+    A of order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
     const int* pSrcIndex, const float* pSrc2, int src2Stride0, int src2Stride2, float* pDst, int dstStride0,
     int dstStride2, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; A of order widthHeight; b and
-    x widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; in orders 3 to 6 x may be b;
+    A of order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     const int* pSrcIndex, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst,
     int dstByteShift, int dstStride2, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; A of order widthHeight; b and
-    x widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; in orders 3 to 6 x may be b;
+    A of order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const int* pSrcIndex, const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst,
     int dstByteShift, int dstStride0, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; A of order widthHeight; b and
-    x widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; in orders 3 to 6 x may be b;
+    A of order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2,
     const int* pSrcIndex, const double* pSrc2, int src2Stride0, int src2Stride2, double* pDst, int dstStride0,
     int dstStride2, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; A of order widthHeight; b and
-    x widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; in orders 3 to 6 x may be b;
+    A of order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     const int* pSrcIndex, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst,
     int dstByteShift, int dstStride2, int widthHeight, int count);
 
-/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; A of order widthHeight; b and
-    x widthHeight elements. */
+/** solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; in orders 3 to 6 x may be b;
+    A of order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0,
     const int* pSrcIndex, const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst,
     int dstByteShift, int dstStride0, int widthHeight, int count);
 
-/** solves A x = b from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x = b from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, const int* pSrcIndex,
     const float* pSrc2, int src2Stride2, float* pDst, int dstStride2, int widthHeight);
 
-/** solves A x = b from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x = b from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, const int* pSrcIndex,
     const float* const* ppSrc2, int src2ByteShift, float* const* ppDst, int dstByteShift, int widthHeight);
 
-/** solves A x = b from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x = b from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, const int* pSrcIndex,
     const double* pSrc2, int src2Stride2, double* pDst, int dstStride2, int widthHeight);
 
-/** solves A x = b from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x = b from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of order
+    widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, const int* pSrcIndex,
     const double* const* ppSrc2, int src2ByteShift, double* const* ppDst, int dstByteShift, int widthHeight);
 
-/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of
+    order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, const int* pSrcIndex,
     const float* pSrc2, int src2Stride0, int src2Stride2, float* pDst, int dstStride0, int dstStride2,
     int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of
+    order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, const int* pSrcIndex,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, float* const* ppDst, int dstByteShift,
     int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of
+    order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, const int* pSrcIndex,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, float* const* ppDst, int dstByteShift,
     int dstStride0, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of
+    order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, const int* pSrcIndex,
     const double* pSrc2, int src2Stride0, int src2Stride2, double* pDst, int dstStride0, int dstStride2,
     int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of
+    order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, const int* pSrcIndex,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, double* const* ppDst, int dstByteShift,
     int dstStride2, int widthHeight, int count);
 
-/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; A of order widthHeight; b and x
-    widthHeight elements. */
+/** solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b; A of
+    order widthHeight; b and x widthHeight elements. */
 ZelStatus zelmLUBackSubst_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, const int* pSrcIndex,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, double* const* ppDst, int dstByteShift,
     int dstStride0, int widthHeight, int count);
 
 /* ---- LUDecomp ---- */
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_m_32f(const float* pSrc, int srcStride1, int srcStride2, int* pDstIndex, float* pDst,
     int dstStride1, int dstStride2, int widthHeight);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_m_32f_P(const float* const* ppSrc, int srcByteShift, int* pDstIndex, float* const* ppDst,
     int dstByteShift, int widthHeight);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_m_64f(const double* pSrc, int srcStride1, int srcStride2, int* pDstIndex, double* pDst,
     int dstStride1, int dstStride2, int widthHeight);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_m_64f_P(const double* const* ppSrc, int srcByteShift, int* pDstIndex, double* const* ppDst,
     int dstByteShift, int widthHeight);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_ma_32f(const float* pSrc, int srcStride0, int srcStride1, int srcStride2, int* pDstIndex,
     float* pDst, int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_ma_32f_L(const float* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int* pDstIndex, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_ma_32f_P(const float* const* ppSrc, int srcByteShift, int srcStride0, int* pDstIndex,
     float* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_ma_64f(const double* pSrc, int srcStride0, int srcStride1, int srcStride2, int* pDstIndex,
     double* pDst, int dstStride0, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_ma_64f_L(const double* const* ppSrc, int srcByteShift, int srcStride1, int srcStride2,
     int* pDstIndex, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int widthHeight, int count);
 
-/** P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of
-    pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L; square matrices of order
-    widthHeight. May return zelStsSingular. */
+/** P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the
+    object's n entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L.
+    Singular where a pivot is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the
+    others; square matrices of order widthHeight. May return zelStsSingular. */
 ZelStatus zelmLUDecomp_ma_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, int* pDstIndex,
     double* const* ppDst, int dstByteShift, int dstStride0, int widthHeight, int count);
 

@@ -194,16 +194,20 @@ inline constexpr Row kRows[] = {
     // Linear systems
     {"LUDecomp", "m ma", "src pDstIndex dst widthHeight count", "c*n*n", "1001/1001 1001/1001 1001 1001/1001 1001/1001 1001",
      "solvers", "lu::decompose",
-     "P A = L U with partial pivoting by rows. D holds both factors in A's row order: with p the object's n entries of "
-     "pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L",
+     "P A = L U with partial pivoting by rows. D, which may be A, holds both factors in A's row order: with p the object's n "
+     "entries of pDstIndex, row p[k] of D is row k of U and, left of its diagonal, of the unit lower L. Singular where a pivot "
+     "is below 2^-125 (2^-1021 in double) in orders 3 to 6, or not above 2^-23 (2^-52) in the others",
      kSquareShapes, "zelStsSingular"},
     {"LUBackSubst", "mv", "src1 pSrcIndex src2 dst widthHeight count", "", "", "solvers", "lu::solve",
-     "solves A x = b from the factors and the row order that zelmLUDecomp wrote", kSolveShapes},
+     "solves A x = b from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b", kSolveShapes},
     {"LUBackSubst", "mva", "src1 pSrcIndex src2 dst widthHeight count", "n*n+2*c*n", "701/701 701/701 701 701/701 701/701 701",
-     "solvers", "lu::solve", "solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote", kSolveShapes},
+     "solvers", "lu::solve",
+     "solves A x[k] = b[k] from the factors and the row order that zelmLUDecomp wrote; in orders 3 to 6 x may be b",
+     kSolveShapes},
     {"LUBackSubst", "mava", "src1 pSrcIndex src2 dst widthHeight count", "(n+2)*n*c",
      "1201/1201 1201/1201 1201 1201/1201 1201/1201 1201", "solvers", "lu::solve",
-     "solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote", kSolveShapes},
+     "solves A[k] x[k] = b[k] from the factors and the row orders that zelmLUDecomp wrote; in orders 3 to 6 x may be b",
+     kSolveShapes},
     {"CholeskyDecomp", "m ma", "src dst widthHeight count", "c*n*n", "7501/7501 2001/2001 2001 2001/2001 721/2001 2001",
      "solvers", "cholesky::decompose",
      "A = L L^T, A symmetric positive definite, of which the lower triangle is read. D, which may be A, gets the lower "
@@ -233,10 +237,11 @@ inline constexpr Row kRows[] = {
     {"QRBackSubst", "mava", "src1 pBuffer src2 dst width height count", "c*w*h+c*w+c*h", kQRLimits, "solvers", "qr::solve",
      "least-squares solution of A[k] x[k] = b[k] from the results of zelmQRDecomp",
      "A height x width; b height, x width elements; pBuffer height elements", "", "h*E", "width <= height"},
-    {"Det", "m", "src widthHeight pBuffer pDst count", "", "", "solvers", "determinant::compute", "*pDst = det(A)",
-     kScratchShapes},
+    {"Det", "m", "src widthHeight pBuffer pDst count", "", "", "solvers", "determinant::compute",
+     "*pDst = det(A), which need not be exactly 0 where A is singular", kScratchShapes},
     {"Det", "ma", "src widthHeight pBuffer pDst count", "c*n", "14401/14401 14401/14401 14401 14401/14401 14401/14401 14401",
-     "solvers", "determinant::compute", "pDst[k] = det(A[k])", kScratchShapes, "", "(n*n+n)*E"},
+     "solvers", "determinant::compute", "pDst[k] = det(A[k]), which need not be exactly 0 where A[k] is singular",
+     kScratchShapes, "", "(n*n+n)*E"},
     {"Invert", "m ma", "src pBuffer dst widthHeight count", "2*c*n", "3601/2501 2501/2501 2501 2501/2501 2501/2501 2501",
      "solvers", "inverse::invert",
      "$d = inverse of $a, which D may be in orders 1 and 3 to 6. Singular where |det| or a pivot is below an absolute limit, "

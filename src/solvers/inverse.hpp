@@ -125,7 +125,7 @@ struct ByPivoting {
   Lanes<T, N, N> m;  // columns exchanged; behind step k rows and columns above k are those of the complement
   P x[N][N];         // the inverse, row i of which belongs into row p[i]
   P p[N], r[steps];
-  P singular[steps + 1];  // masks: at each pivot, at the determinant
+  P singular[steps + 1];  // masks: up to each pivot, at the determinant
 
   __attribute__((noinline)) P run() {
     ZELM_UNROLL for (int j = 0; j < N; ++j) p[j] = P::splat(T(j));
@@ -135,9 +135,7 @@ struct ByPivoting {
     singular[steps] = invert_by_cofactors<Method::newton>(block, limit);
     ZELM_UNROLL for (int i = 0; i < 4; ++i) { ZELM_UNROLL for (int j = 0; j < 4; ++j) x[steps + i][steps + j] = block[i][j]; }
     ZELM_UNROLL for (int k = steps - 1; k >= 0; --k) border(k);
-    P any = singular[0];
-    ZELM_UNROLL for (int k = 1; k <= steps; ++k) any = any | singular[k];
-    return any;
+    return singular[steps - 1] | singular[steps];
   }
 
   template <Memory, class View>
@@ -178,7 +176,8 @@ struct ByPivoting {
       best = max_or_second(magnitude, best);
     }
     singular[k] = P::splat(limit) > best;
-    P later = P::zero();
+    if (k > 0) singular[k] = singular[k] | singular[k - 1];
+    P later = singular[k];  // a singular object is left before the exchange
     ZELM_UNROLL for (int j = N - 1; j > k; --j) {
       const P chosen = here[j];
       here[j] = and_not(chosen, later);

@@ -391,9 +391,11 @@ TEST(InvertKnownAnswers, PivotingFailuresLeaveWorkingRows) {
     EXPECT_EQ(r.status, zelStsSingular);
     EXPECT_EQ(r.d[0], 1);
     EXPECT_EQ(std::vector(r.d.begin() + n * (n - 4), r.d.end()), std::vector<float>(4 * n, -99));
-    a[0] = 0;  // found at the first pivot
+    a[0] = 0, a[1] = 1e-38f, a[n + 2] = 2;  // found at the first pivot, ahead of any exchange
     r = inverted<float>(m32, a, n);
     EXPECT_EQ(r.status, zelStsSingular);
+    EXPECT_EQ(r.d[0], 0);
+    EXPECT_EQ(r.d[1], 1e-38f);
     EXPECT_EQ(std::vector(r.d.begin() + n, r.d.end()), untouched);
   }
 }
