@@ -1805,82 +1805,82 @@ ZelStatus zelmFrobNorm_ma_64f_P(const double* const* ppSrc, int srcByteShift, in
 
 /* ---- Gaxpy ---- */
 
-/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+/** d = A * b + c; d must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* pSrc2, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2, int src3Len, float* pDst,
     int dstStride2);
 
-/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+/** d = A * b + c; d must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Len, const float* const* ppSrc3, int src3ByteShift,
     int src3Len, float* const* ppDst, int dstByteShift);
 
-/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+/** d = A * b + c; d must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* pSrc2, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride2, int src3Len,
     double* pDst, int dstStride2);
 
-/** d = A * b + c; A height x width; b src2Len, c src3Len elements. */
+/** d = A * b + c; d must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Len, const double* const* ppSrc3, int src3ByteShift,
     int src3Len, double* const* ppDst, int dstByteShift);
 
-/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c[k]; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride0,
     int src3Stride2, int src3Len, float* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c[k]; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const float* const* ppSrc3,
     int src3ByteShift, int src3Stride2, int src3Len, float* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c[k]; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const float* const* ppSrc3,
     int src3ByteShift, int src3Stride0, int src3Len, float* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c[k]; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride0,
     int src3Stride2, int src3Len, double* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c[k]; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const double* const* ppSrc3,
     int src3ByteShift, int src3Stride2, int src3Len, double* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A * b[k] + c[k]; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c[k]; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const double* const* ppSrc3,
     int src3ByteShift, int src3Stride0, int src3Len, double* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mvav_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2,
     int src3Len, float* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mvav_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const float* pSrc3, int src3Stride2,
     int src3Len, float* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mvav_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const float* const* ppSrc3,
     int src3ByteShift, int src3Len, float* const* ppDst, int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mvav_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, const double* pSrc3, int src3Stride2,
     int src3Len, double* pDst, int dstStride0, int dstStride2, int count);
 
-/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mvav_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, const double* pSrc3,
     int src3Stride2, int src3Len, double* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A * b[k] + c; A height x width; b src2Len, c src3Len elements. */
+/** d[k] = A * b[k] + c; d[k] must overlap none of them; A height x width; b src2Len, c src3Len elements. */
 ZelStatus zelmGaxpy_mvav_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, const double* const* ppSrc3,
     int src3ByteShift, int src3Len, double* const* ppDst, int dstByteShift, int dstStride0, int count);
@@ -2428,182 +2428,182 @@ ZelStatus zelmMul_mac_64f_L(const double* const* ppSrc, int srcByteShift, int sr
 ZelStatus zelmMul_mac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mam_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mam_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mam_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mam_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mam_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mam_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mama_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
     float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mama_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
     int width2, int height2, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mama_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mama_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
     double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mama_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
     int width2, int height2, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mama_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mat_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mat_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mat_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mat_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mat_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mat_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mata_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
     float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mata_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
     int width2, int height2, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mata_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mata_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
     double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mata_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
     int width2, int height2, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k] * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k] * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mata_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mav_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
     int height, const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
     int count);
 
-/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width, int height, const float* pSrc2, int src2Stride2, int src2Len, float* const* ppDst, int dstByteShift,
     int dstStride2, int count);
 
-/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift, int dstStride0,
     int count);
 
-/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mav_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
     int height, const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
     int count);
 
-/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width, int height, const double* pSrc2, int src2Stride2, int src2Len, double* const* ppDst, int dstByteShift,
     int dstStride2, int count);
 
-/** d[k] = A[k] * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
     int height, const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0,
     int dstStride2, int count);
 
-/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width, int height, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
     float* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
     int height, const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0,
     int dstStride2, int count);
 
-/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width, int height, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
     double* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A[k] * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k] * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
@@ -2627,144 +2627,144 @@ ZelStatus zelmMul_mc_64f_P(const double* const* ppSrc, int srcByteShift, double 
 /** D = A * B, which as a transform applies A first; D may be a source. Null pointers are refused. */
 ZelStatus zelmMul_mm4x4_32f(const float* pSrc1, const float* pSrc2, float* pDst);
 
-/** D = A * B; sources as stored: height1 x width1, height2 x width2. */
+/** D = A * B; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mm_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst, int dstStride1,
     int dstStride2);
 
-/** D = A * B; sources as stored: height1 x width1, height2 x width2. */
+/** D = A * B; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mm_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift);
 
-/** D = A * B; sources as stored: height1 x width1, height2 x width2. */
+/** D = A * B; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mm_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst, int dstStride1,
     int dstStride2);
 
-/** D = A * B; sources as stored: height1 x width1, height2 x width2. */
+/** D = A * B; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mm_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift);
 
-/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mma_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mma_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mma_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mma_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mma_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mma_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D = A * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D = A * B^T; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mt_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst, int dstStride1,
     int dstStride2);
 
-/** D = A * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D = A * B^T; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mt_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift);
 
-/** D = A * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D = A * B^T; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mt_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst, int dstStride1,
     int dstStride2);
 
-/** D = A * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D = A * B^T; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mt_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift);
 
-/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mta_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mta_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mta_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mta_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mta_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_mta_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** d = A * b; A height x width as stored; b src2Len elements. */
+/** d = A * b; d must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride2);
 
-/** d = A * b; A height x width as stored; b src2Len elements. */
+/** d = A * b; d must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift);
 
-/** d = A * b; A height x width as stored; b src2Len elements. */
+/** d = A * b; d must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride2);
 
-/** d = A * b; A height x width as stored; b src2Len elements. */
+/** d = A * b; d must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift);
 
-/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
     int count);
 
-/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, float* const* ppDst,
     int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
     int count);
 
-/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, double* const* ppDst,
     int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_mva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
@@ -2793,182 +2793,182 @@ ZelStatus zelmMul_tac_64f_L(const double* const* ppSrc, int srcByteShift, int sr
 ZelStatus zelmMul_tac_64f_P(const double* const* ppSrc, int srcByteShift, int srcStride0, double val,
     double* const* ppDst, int dstByteShift, int dstStride0, int width, int height, int count);
 
-/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tam_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tam_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tam_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tam_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tam_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tam_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tama_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
     float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tama_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
     int width2, int height2, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tama_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tama_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
     double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tama_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
     int width2, int height2, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tama_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tat_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tat_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tat_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tat_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tat_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tat_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tata_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
     float* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tata_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
     int width2, int height2, float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tata_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tata_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width1,
     int height1, const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2,
     double* pDst, int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tata_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width1, int height1, const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2,
     int width2, int height2, double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A[k]^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A[k]^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tata_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tav_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
     int height, const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
     int count);
 
-/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tav_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width, int height, const float* pSrc2, int src2Stride2, int src2Len, float* const* ppDst, int dstByteShift,
     int dstStride2, int count);
 
-/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tav_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift, int dstStride0,
     int count);
 
-/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tav_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
     int height, const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
     int count);
 
-/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tav_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width, int height, const double* pSrc2, int src2Stride2, int src2Len, double* const* ppDst, int dstByteShift,
     int dstStride2, int count);
 
-/** d[k] = A[k]^T * b; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tav_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift,
     int dstStride0, int count);
 
-/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tava_32f(const float* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
     int height, const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0,
     int dstStride2, int count);
 
-/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tava_32f_L(const float* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width, int height, const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
     float* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tava_32f_P(const float* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tava_64f(const double* pSrc1, int src1Stride0, int src1Stride1, int src1Stride2, int width,
     int height, const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0,
     int dstStride2, int count);
 
-/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tava_64f_L(const double* const* ppSrc1, int src1ByteShift, int src1Stride1, int src1Stride2,
     int width, int height, const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len,
     double* const* ppDst, int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A[k]^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A[k]^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tava_64f_P(const double* const* ppSrc1, int src1ByteShift, int src1Stride0, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
@@ -2989,144 +2989,144 @@ ZelStatus zelmMul_tc_64f(const double* pSrc, int srcStride1, int srcStride2, dou
 ZelStatus zelmMul_tc_64f_P(const double* const* ppSrc, int srcByteShift, double val, double* const* ppDst,
     int dstByteShift, int width, int height);
 
-/** D = A^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D = A^T * B; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tm_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst, int dstStride1,
     int dstStride2);
 
-/** D = A^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D = A^T * B; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tm_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift);
 
-/** D = A^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D = A^T * B; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tm_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst, int dstStride1,
     int dstStride2);
 
-/** D = A^T * B; sources as stored: height1 x width1, height2 x width2. */
+/** D = A^T * B; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tm_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift);
 
-/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tma_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tma_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tma_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tma_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tma_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A^T * B[k]; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tma_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D = A^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D = A^T * B^T; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tt_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst, int dstStride1,
     int dstStride2);
 
-/** D = A^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D = A^T * B^T; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tt_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int width2, int height2, float* const* ppDst, int dstByteShift);
 
-/** D = A^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D = A^T * B^T; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tt_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* pSrc2, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst, int dstStride1,
     int dstStride2);
 
-/** D = A^T * B^T; sources as stored: height1 x width1, height2 x width2. */
+/** D = A^T * B^T; D must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tt_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int width2, int height2, double* const* ppDst, int dstByteShift);
 
-/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tta_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, float* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tta_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
     float* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tta_32f_P(const float* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tta_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int width2, int height2, double* pDst,
     int dstStride0, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tta_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride1, int src2Stride2, int width2, int height2,
     double* const* ppDst, int dstByteShift, int dstStride1, int dstStride2, int count);
 
-/** D[k] = A^T * B[k]^T; sources as stored: height1 x width1, height2 x width2. */
+/** D[k] = A^T * B[k]^T; D[k] must overlap neither; sources as stored: height1 x width1, height2 x width2. */
 ZelStatus zelmMul_tta_64f_P(const double* const* ppSrc1, int src1ByteShift, int width1, int height1,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int width2, int height2, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** d = A^T * b; A height x width as stored; b src2Len elements. */
+/** d = A^T * b; d must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tv_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* pSrc2, int src2Stride2, int src2Len, float* pDst, int dstStride2);
 
-/** d = A^T * b; A height x width as stored; b src2Len elements. */
+/** d = A^T * b; d must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tv_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Len, float* const* ppDst, int dstByteShift);
 
-/** d = A^T * b; A height x width as stored; b src2Len elements. */
+/** d = A^T * b; d must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tv_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* pSrc2, int src2Stride2, int src2Len, double* pDst, int dstStride2);
 
-/** d = A^T * b; A height x width as stored; b src2Len elements. */
+/** d = A^T * b; d must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tv_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Len, double* const* ppDst, int dstByteShift);
 
-/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tva_32f(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* pSrc2, int src2Stride0, int src2Stride2, int src2Len, float* pDst, int dstStride0, int dstStride2,
     int count);
 
-/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tva_32f_L(const float* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, float* const* ppDst,
     int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tva_32f_P(const float* const* ppSrc1, int src1ByteShift, int width, int height,
     const float* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, float* const* ppDst,
     int dstByteShift, int dstStride0, int count);
 
-/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tva_64f(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* pSrc2, int src2Stride0, int src2Stride2, int src2Len, double* pDst, int dstStride0, int dstStride2,
     int count);
 
-/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tva_64f_L(const double* pSrc1, int src1Stride1, int src1Stride2, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride2, int src2Len, double* const* ppDst,
     int dstByteShift, int dstStride2, int count);
 
-/** d[k] = A^T * b[k]; A height x width as stored; b src2Len elements. */
+/** d[k] = A^T * b[k]; d[k] must overlap neither; A height x width as stored; b src2Len elements. */
 ZelStatus zelmMul_tva_64f_P(const double* const* ppSrc1, int src1ByteShift, int width, int height,
     const double* const* ppSrc2, int src2ByteShift, int src2Stride0, int src2Len, double* const* ppDst,
     int dstByteShift, int dstStride0, int count);

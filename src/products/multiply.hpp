@@ -114,6 +114,19 @@ ZELM_INLINE auto spread_all(const View& view) {
   return all;
 }
 
+/// The operands as the loop over the objects takes them: what is single is read here, unless it has been read before.
+template <int N, class D, class A>
+ZELM_INLINE auto left_of(const A& a) {
+  if constexpr (requires { a.e; }) return a;
+  else if constexpr (!A::array && D::array) return spread_all<N>(a);
+  else return a;
+}
+template <int N, class B>
+ZELM_INLINE auto right_of(const B& b) {
+  if constexpr (requires { b.block; }) return b;
+  else return held<N, N>(b);
+}
+
 template <int N, class Object>
 ZELM_INLINE decltype(auto) as_block(const Object& b) {
   if constexpr (requires { b.rows; }) return (b);
@@ -136,12 +149,9 @@ ZELM_INLINE Row<T, N> row_of_product(const A& a, int i, const Block<T, N, N>& b)
 }
 
 template <int N, class A, class B, class D>
-__attribute__((noinline)) void multiply_each(A a, B b, D d, std::ptrdiff_t first, std::ptrdiff_t count) {
-  const auto left = [&] {
-    if constexpr (!A::array && B::array) return spread_all<N>(a);
-    else return a;
-  }();
-  const auto right = held<N, N>(b);
+__attribute__((noinline)) void multiply_each(const A& a, const B& b, D d, std::ptrdiff_t first, std::ptrdiff_t count) {
+  const auto left = left_of<N, D>(a);
+  const auto right = right_of<N>(b);
   for (std::ptrdiff_t k = first; k < count; ++k) {
     const auto& x = left.object(k);
     const auto& y = as_block<N>(right.object(k));
@@ -237,8 +247,11 @@ ZELM_INLINE void multiply_fixed(const A& a, const B& b, const D& d, int count) {
   constexpr bool tables = requires { d.table; };
   // Rows of five waste three lanes of eight; with B at hand in all lanes that is more than the way into lanes costs.
   constexpr bool wasteful = D::Object::plain && sizeof(typename D::T) == 4 && N == 5 && !B::array;
-  std::ptrdiff_t done = 0;
-  if constexpr (D::array) {
+  if constexpr (D::array && (!D::Object::plain || wasteful)) {
+    // Nothing single is read again for the objects that are left, whatever has been stored by then.
+    const auto left = left_of<N, D>(a);
+    const auto right = right_of<N>(b);
+    std::ptrdiff_t done = 0;
     if (count >= Pack<typename D::T>::lanes) {
       if constexpr (!D::Object::plain) {
         if (d.interleaved() && (!A::array || a.interleaved()) && (!B::array || b.interleaved()))
@@ -248,8 +261,10 @@ ZELM_INLINE void multiply_fixed(const A& a, const B& b, const D& d, int count) {
         if (done == 0) done = multiply_lanes<N, false>(a, b, d, count);
       }
     }
+    if (done < count) multiply_each<N>(left, right, d, done, count);
+  } else {
+    multiply_each<N>(a, b, d, 0, count);
   }
-  if (done < count) multiply_each<N>(a, b, d, done, count);
 }
 
 /// True if the product is square and of one of the policy's fixed orders, and then done.

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "support/harness.hpp"
+#include "zelm.h"
 
 namespace zelm::test {
 namespace {
@@ -216,6 +217,25 @@ TEST_P(Multiply, OverlapInKernelsOfAnyStride) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Multiply, testing::ValuesIn(family("Mul", "multiply")), FunctionTest::name);
+
+/// The single operand of an array of products of fixed order is read once, before anything is stored: the first product may replace it.
+TEST(MultiplyFixed, FirstProductOntoTheSingleOperand) {
+  Random random(4);
+  constexpr int E = sizeof(float), n = 5, cells = n * n, count = 7;
+  const auto array = numbers<float>(cells * count, random), single = numbers<float>(cells * count, random);
+  const auto onto = [&](int object, int row, int element, auto multiply) {
+    std::vector<float> apart(single.size()), over = single;
+    multiply(single.data(), apart.data(), object, row, element);
+    multiply(over.data(), over.data(), object, row, element);
+    EXPECT_EQ(over, apart);
+  };
+  onto(cells * E, n * E, E, [&](const float* b, float* d, int s0, int s1, int s2) {
+    return zelmMul_mam_32f(array.data(), s0, s1, s2, n, n, b, s1, s2, n, n, d, s0, s1, s2, count);
+  });
+  onto(E, n * count * E, count * E, [&](const float* a, float* d, int s0, int s1, int s2) {
+    return zelmMul_mma_32f(a, s1, s2, n, n, array.data(), s0, s1, s2, n, n, d, s0, s1, s2, count);
+  });
+}
 
 TEST(MultiplyFamily, IsComplete) { EXPECT_EQ(family("Mul", "multiply").size(), 88u); }
 
