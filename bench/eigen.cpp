@@ -69,6 +69,31 @@ std::vector<double> product_of_vectors(const Results& results, std::ptrdiff_t ob
   return a;
 }
 
+/// The largest element of A V - V Lambda; of values alone the largest |det(A - lambda I)|, which only order 3 asks for.
+double symmetric_residual(const Results& results, std::ptrdiff_t object, bool vectors) {
+  constexpr int n = 3;
+  double largest = 0;
+  for (int j = 0; j < n; ++j) {
+    const double lambda = results.at(1, object, j);
+    const auto shifted = [&](int i, int m) { return results.at(0, object, i * n + m) - (i == m ? lambda : 0); };
+    if (vectors) {
+      for (int i = 0; i < n; ++i) {
+        double sum = 0;
+        for (int m = 0; m < n; ++m) sum += shifted(i, m) * results.at(2, object, m * n + j);
+        largest = std::max(largest, std::abs(sum));
+      }
+    } else {
+      double det = 0;
+      for (int m = 0; m < n; ++m) {
+        const int p = (m + 1) % n, q = (m + 2) % n;
+        det += shifted(0, m) * (shifted(1, p) * shifted(2, q) - shifted(1, q) * shifted(2, p));
+      }
+      largest = std::max(largest, std::abs(det));
+    }
+  }
+  return largest;
+}
+
 // Operands: source, real parts, imaginary parts, vectors.
 
 /// Sums of powers, which do not ask for an order; and, where there are vectors, residuals.
@@ -114,6 +139,7 @@ Case symmetric(int n, bool vectors) {
     return vectors ? product_of_vectors(r, k, n) : sorted_values(r, k, n);
   };
   c.tolerance = kTolerance<T>;
+  if (n == 3) c.residual = [=](const Results& r, std::ptrdiff_t k) { return symmetric_residual(r, k, vectors); };
   c.call = [=](const Array* at, int count) {
     static std::vector<double> buffer;
     buffer.resize(std::size_t(n * n));

@@ -175,6 +175,8 @@ struct Competitor {
   std::string name, isa;
   std::function<void()> run;
   int threads;
+  bool aside = false;
+  double residual = 0;
 };
 
 /// The rivals divide an array like zelm: evenly, a stretch of consecutive objects for each thread.
@@ -194,7 +196,7 @@ std::vector<Competitor> rivals_of(const std::string& operation, const std::strin
   const auto take = [&](const std::vector<Rival>& list, const char* isa) {
     for (const Rival& r : list)
       if (r.operation == operation && r.type == type && r.n == n)
-        found.push_back({r.name, isa, [=, loop = r.loop] { divided(loop, operands, count, threads); }, threads});
+        found.push_back({r.name, isa, [=, loop = r.loop] { divided(loop, operands, count, threads); }, threads, r.aside});
   };
   take(zelm_bench_rivals_sse(), "SSE4.2");
   take(zelm_bench_rivals_native(), "native");
@@ -257,20 +259,23 @@ std::vector<double> all_outputs(const Case& c, const Results& results, std::ptrd
   return values;
 }
 
-/// Runs every competitor once and compares what they leave, in a sample of the objects that reaches to the last.
-void check(const Case& c, const Arrays& arrays, const std::vector<Competitor>& competitors) {
+/// Runs every competitor once and compares what they leave, in a sample of the objects that reaches to the last. Of those aside it
+/// only notes the residual.
+void check(const Case& c, const Arrays& arrays, std::vector<Competitor>& competitors) {
   constexpr std::ptrdiff_t kSample = 500;
   std::vector<std::ptrdiff_t> sample;
   const std::ptrdiff_t last = arrays.count() - 1, wanted = std::min(arrays.count(), kSample);
   for (std::ptrdiff_t s = 0; s < wanted; ++s) sample.push_back(wanted == 1 ? 0 : last * s / (wanted - 1));
 
   std::vector<std::vector<double>> expected;
-  for (const Competitor& competitor : competitors) {
+  for (Competitor& competitor : competitors) {
     const bool ours = competitor.isa.empty();
     for (const auto k : sample) arrays.spoil(k);
     competitor.run();
     const Left left(c, arrays, ours);
     for (std::size_t s = 0; s < sample.size(); ++s) {
+      if (c.residual) competitor.residual = std::max(competitor.residual, c.residual(left, sample[s]));
+      if (competitor.aside) continue;
       const auto values = c.meaning ? c.meaning(left, sample[s]) : all_outputs(c, left, sample[s]);
       if (ours) {
         expected.push_back(values);
@@ -483,9 +488,19 @@ void measure_case(const Case& c, const std::vector<Set>& sets, const std::functi
     const auto row = [&](int threads, const std::vector<Competitor>& competitors) {
       const std::vector<Measured> measured = time(competitors, patience(set));
       const double scale = 1e9 / double(arrays.count());
-      Row r{&c, set, threads, arrays.count(), bytes, measured[0].seconds * scale, measured[0].steady, {}};
-      for (std::size_t i = 1; i < competitors.size(); ++i)
-        r.rivals.push_back({competitors[i].name, competitors[i].isa, measured[i].seconds * scale, measured[i].steady});
+      Row r{&c,
+            set,
+            threads,
+            arrays.count(),
+            bytes,
+            measured[0].seconds * scale,
+            measured[0].steady,
+            {},
+            competitors[0].residual};
+      for (std::size_t i = 1; i < competitors.size(); ++i) {
+        const Competitor& k = competitors[i];
+        r.rivals.push_back({k.name, k.isa, measured[i].seconds * scale, measured[i].steady, k.aside, k.residual});
+      }
       done(r);
     };
     if (set == Set::many) {

@@ -103,6 +103,8 @@ struct Case {
   /// outputs.
   std::function<std::vector<double>(const Results&, std::ptrdiff_t object)> meaning;
   double tolerance = 0;
+  /// How wrong the results of one object are, where rivals are printed aside.
+  std::function<double(const Results&, std::ptrdiff_t object)> residual;
   std::vector<Limit> limits;
   std::vector<Set> sets = {Set::l1, Set::llc, Set::memory};  // and those of the limits
   std::vector<int> threads = {1, 2};                         // in Set::memory two only at size 4, which stands for all
@@ -154,6 +156,8 @@ struct Timing {
   std::string name, isa;  // "Eigen", "native"
   double ns;              // per object
   bool steady;            // the median repetition within 10 % of the shortest
+  bool aside = false;
+  double residual = 0;  // the largest, where the case has one
 };
 
 /// One line of the table.
@@ -166,6 +170,7 @@ struct Row {
   double ns;     // per object, zelm
   bool steady;
   std::vector<Timing> rivals;
+  double residual = 0;  // of zelm
 };
 
 struct Bandwidth {

@@ -47,7 +47,7 @@ std::string bytes(std::size_t n) {
 const Timing* best(const Row& row, const char* isa) {
   const Timing* best = nullptr;
   for (const Timing& t : row.rivals)
-    if (t.isa == isa && (!best || t.ns < best->ns)) best = &t;
+    if (t.isa == isa && !t.aside && (!best || t.ns < best->ns)) best = &t;
   return best;
 }
 
@@ -105,7 +105,8 @@ double Report::reference(const Row& row, const std::string& rival) const {
   double ns = 0;
   const auto candidate = [&](double t) { ns = ns == 0 ? t : std::min(ns, t); };
   for (const Timing& t : row.rivals)
-    if (rival == "any" || rival == t.isa || rival == t.name || rival == t.name + " " + t.isa) candidate(t.ns);
+    if (t.aside) continue;
+    else if (rival == "any" || rival == t.isa || rival == t.name || rival == t.name + " " + t.isa) candidate(t.ns);
   return ns;
 }
 
@@ -149,6 +150,10 @@ void Report::row(const Row& row) {
   else std::printf("   %6s", "-");
   for (const Verdict& v : verdicts(row)) std::printf("  %s%s", v.text.c_str(), v.kept ? "" : " MISSED");
   std::printf("%s\n", steady(row) ? "" : "  unsteady");
+  for (const Timing& t : row.rivals)
+    if (t.aside)
+      std::printf("      aside: %s for %s %.2f ns; residual %.1e, of zelm %.1e\n", t.name.c_str(), t.isa.c_str(), t.ns,
+                  t.residual, row.residual);
   std::fflush(stdout);
   rows_.push_back(row);
 }
@@ -217,8 +222,10 @@ void Report::write_json() const {
     separator = ",\n";
     const char* comma = "";
     for (const Timing& t : row.rivals) {
-      std::fprintf(json_, "%s{\"name\": \"%s\", \"isa\": \"%s\", \"ns_per_object\": %.5g}", comma, t.name.c_str(),
-                   t.isa.c_str(), t.ns);
+      std::fprintf(json_, "%s{\"name\": \"%s\", \"isa\": \"%s\", \"ns_per_object\": %.5g", comma, t.name.c_str(), t.isa.c_str(),
+                   t.ns);
+      if (t.aside) std::fprintf(json_, ", \"residual\": %.3g", t.residual);
+      std::fprintf(json_, "}");
       comma = ", ";
     }
     std::fprintf(json_, "], \"limits\": [");

@@ -34,6 +34,7 @@ struct Rival {
   int n;
   std::string name;
   Loop loop;
+  bool aside = false;  // printed beside the others and never the best of them, since its results are less accurate
 };
 
 template <class T>
@@ -50,9 +51,9 @@ void loop_of(const Array* operands, std::ptrdiff_t first, std::ptrdiff_t count) 
 
 /// Enrolls a generic lambda <class T, int N>(operands, first, count) for float and double and each N.
 template <int... N, class Kernel>
-bool enroll(const std::string& operation, const char* name, Kernel) {
-  (enrolled().push_back({operation, "32f", N, name, loop_of<Kernel, float, N>}), ...);
-  (enrolled().push_back({operation, "64f", N, name, loop_of<Kernel, double, N>}), ...);
+bool enroll(const std::string& operation, const char* name, Kernel, bool aside = false) {
+  (enrolled().push_back({operation, "32f", N, name, loop_of<Kernel, float, N>, aside}), ...);
+  (enrolled().push_back({operation, "64f", N, name, loop_of<Kernel, double, N>, aside}), ...);
   return true;
 }
 

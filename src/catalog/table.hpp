@@ -63,9 +63,8 @@ inline constexpr std::string_view kSymmetricBuffer =
     "square matrices of order n = widthHeight; pBuffer n * n elements of the matrices' type";
 inline constexpr std::string_view kVectorBuffer =
     "square matrices of order widthHeight; pBuffer of the bytes that zelmEigenValuesVectorsGetBufSize gives. Where an "
-    "eigenvalue "
-    "meets a complex pair to within rounding, the call ends with that object: its values are there, its vectors are left "
-    "alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one";
+    "eigenvalue meets a complex pair to within rounding, the call ends with that object: its values are there, its vectors "
+    "are left alone, and the status is zelStsFailure for a complex eigenvalue, but zelStsOk for a real one";
 inline constexpr std::string_view kVectorStatuses = "zelStsFailure zelStsNoConvergence";
 
 inline constexpr Row kRows[] = {

@@ -19,6 +19,8 @@ void in_rows(const float* a, Bytes row_stride, const float* x, float* d, int row
 // of `rows`; `lead` is the number of elements before x reaches a multiple of 16 bytes.
 
 struct LanesOfBlocks {
+  template <class T>
+  static constexpr int step = Pack<T>::lanes;
   template <class T, class Term>
   static ZELM_INLINE Pack<T> sum(int i, int rows, int length, int lead, Term term) {
     const int rest = rows % 8;
@@ -27,6 +29,8 @@ struct LanesOfBlocks {
   }
 };
 struct LanesOfRows {
+  template <class T>
+  static constexpr int step = 8;
   template <class T, class Term>
   static ZELM_INLINE Pack<T> sum(int, int, int length, int lead, Term term) {
     return sum_in_steps<T, 8>(length, lead, Pack<T>::zero(), term);
@@ -36,7 +40,7 @@ struct LanesOfRows {
 /// Matrices of up to so many elements are held with every element in all lanes, if there are vectors enough to pay for that.
 inline constexpr int kMostHeld = 256, kLeastVectors = 16;
 
-/// `one`: does a single object. Vectors go together if all begin at the same distance from a multiple of 16 bytes.
+/// `one`: does a single object. Vectors go together if their sums have the same leading terms, or no steps.
 template <class Sum, class A, class B, class D, class One>
 __attribute__((noinline)) void in_object_lanes(A matrix, B b, D d, int rows, int length, std::ptrdiff_t count, One one) {
   using T = typename D::T;
@@ -50,9 +54,13 @@ __attribute__((noinline)) void in_object_lanes(A matrix, B b, D d, int rows, int
     typename B::Object from[L];
     typename D::Object to[L];
     b.objects(n, L, from);
-    const int lead = elements_to_alignment<T>(from[0].base);
+    const auto lead_of = [=](const auto& x) ZELM_INLINE_LAMBDA {
+      const int elements = elements_to_alignment<T>(x.base);
+      return length - elements < Sum::template step<T> ? -1 : elements;
+    };
+    const int lead = lead_of(from[0]);
     bool alike = true;
-    ZELM_UNROLL for (int l = 1; l < L; ++l) alike &= elements_to_alignment<T>(from[l].base) == lead;
+    ZELM_UNROLL for (int l = 1; l < L; ++l) alike &= lead_of(from[l]) == lead;
     if (!alike) {
       for (int l = 0; l < L; ++l) one(n + l);
       continue;

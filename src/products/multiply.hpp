@@ -26,6 +26,17 @@ struct Blocked {
   static ZELM_INLINE void one(const A& a, const B& b, const D& d, Shape shape) {
     multiply_blocks(a, b, d, shape);
   }
+  /// True if whole arrays go another way, and then done.
+  template <class A, class B, class D>
+  static ZELM_INLINE bool all(const A& a, const B& b, const D& d, Shape s, int count) {
+    if constexpr (!A::Object::plain || !B::Object::plain || !D::Object::plain) {
+      return false;
+    } else {
+      if (s.rows % 4 != 0 || s.columns % Pack<typename D::T>::lanes != 0) return false;
+      multiply_whole_registers(a, b, d, s, count);
+      return true;
+    }
+  }
 };
 
 /// One term after the other, summed in the destination. See multiply_cells.hpp.
@@ -299,6 +310,9 @@ ZELM_INLINE ZelStatus multiply(A a, int width1, int height1, B b, int width2, in
       if (!multiply_small<Policy>(p, q, r, shape, 1)) Policy::one(p.object(0), q.object(0), r.object(0), shape);
     }
   } else if (!multiply_small<Policy>(x, y, z, shape, count)) {
+    if constexpr (D::array && requires { Policy::all(x, y, z, shape, count); }) {
+      if (Policy::all(x, y, z, shape, count)) return zelStsOk;
+    }
     for (std::ptrdiff_t k = 0; k < count; ++k) Policy::one(x.object(k), y.object(k), z.object(k), shape);
   }
   return zelStsOk;

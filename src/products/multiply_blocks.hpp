@@ -53,7 +53,7 @@ struct Lines {
 
 /// Q registers of elements of each of the lines from element e on, of the last one n elements. `along`: x_term is one element.
 template <int S, bool along, bool down, int Q, int n, class T>
-__attribute__((noinline)) void sum_lines(const Lines<T>& of, int lines, int e) {
+ZELM_INLINE void sum_lines_here(const Lines<T>& of, int lines, int e) {
   using P = Pack<T>;
   constexpr int L = P::lanes;
   const T *x_start = of.x, *const y_start = of.y + e;
@@ -105,6 +105,11 @@ __attribute__((noinline)) void sum_lines(const Lines<T>& of, int lines, int e) {
       else sum[q].template store_first<n>(d + q * L);
     }
   }
+}
+
+template <int S, bool along, bool down, int Q, int n, class T>
+__attribute__((noinline)) void sum_lines(const Lines<T>& of, int lines, int e) {
+  sum_lines_here<S, along, down, Q, n>(of, lines, e);
 }
 
 /// Elements from, ..., to - 1 of the lines.
@@ -245,6 +250,23 @@ ZELM_INLINE void multiply_dots(const A& a, const B& b, const D& d, Shape s) {
       multiply_tile(a, b, d, i, s.columns < 4 ? j : std::min(j, s.columns - 4), s.columns, s.terms);
   for (; i < s.rows; ++i)
     for (int j = 0; j < s.columns; ++j) store(d.at(i, j), sum_of_row(a.at(i, 0), b.at(0, j), s.terms));
+}
+
+/// All objects of an array of products of rows in fours and columns in whole registers. The way into sum_lines takes as long as a
+/// third of a product of order 8.
+template <class A, class B, class D>
+__attribute__((noinline)) void multiply_whole_registers(A a, B b, D d, Shape s, std::ptrdiff_t count) {
+  using T = typename D::T;
+  constexpr int L = Pack<T>::lanes, Q = 8 / L;
+  for (std::ptrdiff_t k = 0; k < count; ++k) {
+    const auto x = a.object(k);
+    const auto y = b.object(k);
+    const auto z = d.object(k);
+    const Lines<T> lines{x.base, x.row_stride, sizeof(T), y.base, y.row_stride, z.base, z.row_stride, sizeof(T), s.terms};
+    int e = 0;
+    for (; e + Q * L <= s.columns; e += Q * L) sum_lines_here<L, true, false, Q, L>(lines, s.rows, e);
+    for (; e < s.columns; e += L) sum_lines_here<L, true, false, 1, L>(lines, s.rows, e);
+  }
 }
 
 template <class A, class B, class D>
