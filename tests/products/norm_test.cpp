@@ -76,7 +76,7 @@ class Lanes {
   T lane[4] = {};
 };
 
-/// Columns first, rows ascending.
+/// Columns first, rows ascending; of a run without gaps as many columns as a register has lanes.
 template <class T>
 T by_columns(const std::vector<T>& p, int order) {
   std::vector<T> columns(std::size_t(order), T(0));
@@ -94,7 +94,7 @@ TEST_P(FrobNorm, EverySizeMemoryAndCount) {
                adjacent = f.array() ? road.kernel->contiguous : stride2 == sizeof(T);
     if (table && square && width == 3) return std::sqrt(ascending(p));
     if (!table && square && (f.array() ? adjacent && width >= 3 && width <= 6 : width <= 5))
-      return std::sqrt(by_columns(p, width));
+      return std::sqrt(by_columns(p, f.array() && stride1 == width * int(sizeof(T)) ? 16 / int(sizeof(T)) : width));
     Lanes<T> lanes;
     if (table || (width * stride2 == stride1 && address % sizeof(T) == 0)) {
       lanes.add(p, !table && adjacent ? address : 0);

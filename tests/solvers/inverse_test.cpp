@@ -80,14 +80,14 @@ bool by_pivoting(const float* a, float* d, int n) {
   std::iota(p.begin(), p.end(), 0);
   const auto at = [&](auto& m, int i, int j) -> float& { return m[i * n + j]; };
   const int steps = n - 4;
-  int rows_left = -1;  // on failure
+  const auto leave = [&](int rows) { return std::copy(w.begin(), w.begin() + rows * n, d), false; };
   for (int k = 0; k < steps; ++k) {
     int c = k;
     for (int j = k + 1; j < n; ++j) {
       const float x_j = std::abs(at(w, k, j)), best = std::abs(at(w, k, c));
       if (n == 5 && j == 4 ? x_j > best : x_j >= best) c = j;
     }
-    if (limit<float>(n) > std::abs(at(w, k, c)) && rows_left < 0) rows_left = k + 1;
+    if (limit<float>(n) > std::abs(at(w, k, c))) return leave(k + 1);
     std::swap(p[k], p[c]);
     for (int i = 0; i < n; ++i) std::swap(at(w, i, k), at(w, i, c));
     r[k] = newton(at(w, k, k));
@@ -96,11 +96,7 @@ bool by_pivoting(const float* a, float* d, int n) {
   }
   float block[16];
   for (int e = 0; e < 16; ++e) block[e] = at(w, steps + e / 4, steps + e % 4);
-  if (!by_cofactors(block, block, 4, limit<float>(n), true) && rows_left < 0) rows_left = steps;
-  if (rows_left >= 0) {
-    std::copy(w.begin(), w.begin() + rows_left * n, d);
-    return false;
-  }
+  if (!by_cofactors(block, block, 4, limit<float>(n), true)) return leave(steps);
   for (int e = 0; e < 16; ++e) at(x, steps + e / 4, steps + e % 4) = block[e];
   for (int k = steps - 1; k >= 0; --k) {
     const auto sum = [&](auto term) {
