@@ -116,6 +116,8 @@ ZELM_INLINE void fixed(const A& a, const B& b, const C& c, const D& d, int count
 /// in_blocks
 struct Blocks {
   using InLanes = LanesOfBlocks;
+  template <class T>
+  using InColumns = Led<0, Pack<T>::lanes>;
   template <bool turned, class A, class X, class D>
   static ZELM_INLINE void one(const A& a, const X& x, None, const D& d, int rows, int length) {
     in_blocks<turned>(a.base, a.row_stride, x.base, d.base, rows, length);
@@ -125,6 +127,8 @@ struct Blocks {
 /// in_rows
 struct Rows {
   using InLanes = LanesOfRows;
+  template <class T>
+  using InColumns = Led<0, 8>;
   template <bool turned, class A, class X, class D>
   static ZELM_INLINE void one(const A& a, const X& x, None, const D& d, int rows, int length) {
     in_rows(a.base, a.row_stride, x.base, d.base, rows, length);
@@ -182,6 +186,15 @@ struct Sums {
       General::template one<turned>(a.object(k), b.object(k), c.object(k), d.object(k), rows, length);
     };
     if constexpr (!A::array && D::array && requires { typename General::InLanes; }) {
+      using T = typename D::T;
+      if constexpr (B::plain && D::plain) {
+        // Orders whose columns are whole registers and all rows of whole blocks, and vectors without leading terms.
+        if (rows == length && (reinterpret_cast<std::uintptr_t>(b.first) | std::uintptr_t(b.stride0)) % 16 == 0) {
+          using Order = typename General::template InColumns<T>;
+          if (rows == 8) return in_columns<Order, 8>(columns_of<turned>(a), b, c, d, count);
+          if (rows == 12) return in_columns<Order, 12>(columns_of<turned>(a), b, c, d, count);
+        }
+      }
       if (count >= kLeastVectors && length <= kMostHeld && rows <= kMostHeld / length)
         return in_object_lanes<typename General::InLanes>(rows_for<turned>(a).object(0), b, d, rows, length, count, one);
     }

@@ -54,40 +54,49 @@ struct Batched {
   }
 };
 
-/// As in_blocks: the first `lead` products are added before the lanes of those that follow, then comes what is left. -1: no lanes.
-template <int lead>
+/// The first `lead` products are added before the lanes of those that follow, a step of them at a time; then comes what is left. With
+/// a lead of -1 there are no lanes. Sums from +0.
+template <int lead, int step>
 struct Led {
+  static constexpr bool from_zero = true;
   template <int N, class Product>
   static ZELM_INLINE auto sum(int i, Product p) {
     using P = decltype(p(0));
-    constexpr int L = P::lanes, packed = lead < 0 || N < 4 ? 0 : (N - lead) / L * L;
+    constexpr int packed = lead < 0 ? 0 : (N - lead) / step * step;
     if constexpr (packed == 0) {
       return Ascending::sum<N>(i, p);
     } else {
-      P lane[L] = {Ascending::sum<lead + 1>(i, p)};
-      ZELM_UNROLL for (int l = 1; l < L; ++l) lane[l] = p(lead + l);
-      ZELM_UNROLL for (int k = L; k < packed; ++k) lane[k % L] = lane[k % L] + p(lead + k);
-      P s;
-      if constexpr (L == 2) s = lane[0] + lane[1];
-      else s = (lane[0] + lane[2]) + (lane[1] + lane[3]);
+      StepSums<decltype(P::zero().first()), step, P> sums;
+      sums.part[0] = Ascending::sum<lead + 1>(i, p);
+      ZELM_UNROLL for (int l = 1; l < step; ++l) sums.part[l] = p(lead + l);
+      ZELM_UNROLL for (int k = step; k < packed; ++k) sums.part[k % step] = sums.part[k % step] + p(lead + k);
+      P s = sums.sum();
       ZELM_UNROLL for (int k = lead + packed; k < N; ++k) s = s + p(k);
       return s;
     }
   }
 };
 
-/// The order that in_blocks has where x begins; sums from +0.
-struct AsBlocks {};
+/// The order that in_blocks has where x begins.
+struct AsBlocks {
+  static constexpr bool from_zero = true;
+};
+
+template <class Order>
+inline constexpr bool from_zero = requires {
+  Order::from_zero;
+};
 
 template <class Order, int N, class X, class Body>
 ZELM_INLINE void with_order(const X& x, Body body) {
+  constexpr int L = Pack<typename X::T>::lanes;
   if constexpr (!std::is_same_v<Order, AsBlocks>) return body(Order{});
-  else if constexpr (N < 4) return body(Ascending{});
+  else if constexpr (N < 4) return body(Led<-1, L>{});  // rows too few for a block, and products for a step of eight
   else switch (elements_to_alignment<typename X::T>(x.at(0, 0))) {
-      case 0: return body(Led<0>{});
-      case 1: return body(Led<1>{});
-      case 2: return body(Led<2>{});
-      default: return body(Led<-1>{});  // fewer than four remain behind three
+      case 0: return body(Led<0, L>{});
+      case 1: return body(Led<1, L>{});
+      case 2: return body(Led<2, L>{});
+      default: return body(Led<-1, L>{});  // fewer than four remain behind three
     }
 }
 
@@ -254,7 +263,7 @@ __attribute__((noinline)) void in_columns(Columns columns, B b, C c, D d, int co
       ZELM_UNROLL for (int q = 0; q < R::packs; ++q) z.pack[q] = decltype(order)::template sum<N>(
           q * Pack<typename D::T>::lanes, [&](int k) ZELM_INLINE_LAMBDA { return column[k].pack[q] * x.e[k]; });
     });
-    if constexpr (std::is_same_v<Order, AsBlocks>) z = lanewise(plus, z, R::splat(0));
+    if constexpr (from_zero<Order>) z = lanewise(plus, z, R::splat(0));
     if constexpr (!std::is_same_v<C, None>) z = lanewise(plus, z, addends.object(n).template row<N>(0));
     d.object(n).set_row(0, z);
   }

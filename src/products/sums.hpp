@@ -101,14 +101,21 @@ ZELM_INLINE V sum_in_steps(int length, int lead, V zero, Term term, Steps steps)
 template <class T, int step, class V, class Term>
 ZELM_INLINE V sum_in_steps(int length, int lead, V zero, Term term) {
   return sum_in_steps<step>(length, lead, zero, term, [&](V first, int& k) ZELM_INLINE_LAMBDA {
+    const auto from = [&] {
+      std::ptrdiff_t e = k;
+      __asm__("" : "+r"(e));  // a compiler that knows it to be a multiple forms every address apart, with OR
+      return e;
+    };
+    // Only lane 0 starts from +0, which is enough for the sign of a sum of zeros.
     StepSums<T, step, V> sums;
-    sums.part[0] = first;
-    ZELM_UNROLL for (int l = 1; l < step; ++l) sums.part[l] = zero;
+    const std::ptrdiff_t start = from();
+    sums.part[0] = first + term(start);
+    ZELM_UNROLL for (int l = 1; l < step; ++l) sums.part[l] = term(start + l);
+    k += step;
     const auto turn = [&]<int n>(std::integral_constant<int, n>) ZELM_INLINE_LAMBDA {
       ZELM_AS_IT_STANDS for (; k + n <= length; k += n) {
-        std::ptrdiff_t from = k;
-        __asm__("" : "+r"(from));  // a compiler that knows it to be a multiple forms every address apart, with OR
-        ZELM_UNROLL for (int s = 0; s < n; s += step) sums.add(from + s, term);
+        const std::ptrdiff_t e = from();
+        ZELM_UNROLL for (int s = 0; s < n; s += step) sums.add(e + s, term);
       }
     };
     if constexpr (step < 8) turn(std::integral_constant<int, 8>{});
