@@ -22,22 +22,6 @@ Packed from_alignment(const T* x, int step, int length) {
   return {begin, begin + (length - begin) / step * step};
 }
 
-/// Lane l of result r: even or odd places of the lanes of two packs, as one goes through them both.
-ZELM_INLINE Pack<float> evens(Pack<float> a, Pack<float> b) { return {shuffle<0x88>(a.raw, b.raw)}; }
-ZELM_INLINE Pack<float> odds(Pack<float> a, Pack<float> b) { return {shuffle<0xdd>(a.raw, b.raw)}; }
-
-/// The lanes of each of four packs added up, (l0 + l2) + (l1 + l3); of two packs, l0 + l1.
-ZELM_INLINE Pack<float> sums_of_lanes(const Pack<float>* a) {
-  const auto halves = [](Pack<float> s, Pack<float> t) {
-    return Pack<float>{shuffle<0x44>(s.raw, t.raw)} + Pack<float>{shuffle<0xee>(s.raw, t.raw)};
-  };
-  const Pack<float> low = halves(a[0], a[1]), high = halves(a[2], a[3]);
-  return evens(low, high) + odds(low, high);
-}
-ZELM_INLINE Pack<double> sums_of_lanes(const Pack<double>* a) {
-  return Pack<double>{shuffle<0>(a[0].raw, a[1].raw)} + Pack<double>{shuffle<3>(a[0].raw, a[1].raw)};
-}
-
 /// S packs of partial sums become one.
 template <int S, class V>
 ZELM_INLINE V joined(const V* part) {
@@ -72,7 +56,11 @@ ZELM_INLINE void rows_with(const T* a, Bytes row_stride, const T* x, T* d, Packe
   ZELM_UNROLL for (int r = 0; r < R; ++r) whole[r] = joined<S>(part[r]);
   if constexpr (R % L == 0) {
     P sum[R / L];
-    ZELM_UNROLL for (int q = 0; q < R / L; ++q) sum[q] = sums_of_lanes(whole + q * L);
+    ZELM_UNROLL for (int q = 0; q < R / L; ++q) {
+      P some[L];
+      ZELM_UNROLL for (int l = 0; l < L; ++l) some[l] = whole[q * L + l];
+      sum[q] = sums_of_lanes(some);
+    }
     ZELM_AS_IT_STANDS for (; k < length; ++k) {
       const P factor = P::splat(load(x + k));
       ZELM_UNROLL for (int q = 0; q < R / L; ++q) sum[q] =

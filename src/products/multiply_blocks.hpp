@@ -165,18 +165,6 @@ ZELM_INLINE void multiply_columns(const A& a, const B& b, const D& d, Shape s) {
   else sum_lines<1, true, true>(lines, s.columns, in_fours, s.rows);
 }
 
-/// The sums of the lanes of L registers.
-ZELM_INLINE Pack<float> sums_of_lanes(const Pack<float> (&p)[4]) {
-  const auto halves = [](Pack<float> a, Pack<float> b) {
-    return _mm_add_ps(shuffle<0x44>(a.raw, b.raw), shuffle<0xee>(a.raw, b.raw));
-  };
-  const __m128 low = halves(p[0], p[1]), high = halves(p[2], p[3]);
-  return {_mm_add_ps(shuffle<0x88>(low, high), shuffle<0xdd>(low, high))};
-}
-ZELM_INLINE Pack<double> sums_of_lanes(const Pack<double> (&p)[2]) {
-  return {_mm_add_pd(shuffle<0>(p[0].raw, p[1].raw), shuffle<3>(p[0].raw, p[1].raw))};
-}
-
 /// Rows i, i + 1 and four columns from j on, of which `columns` there are: the terms in the lanes.
 template <class A, class B, class D>
 ZELM_INLINE void multiply_tile(const A& a, const B& b, const D& d, int i, int j, int columns, int terms) {

@@ -66,7 +66,8 @@ ZELM_INLINE ZelStatus euclidean(View a, typename View::T* d, int width, int coun
 }
 
 // Frobenius norms. Fixed orders: the squares of every column are added, rows ascending, and then the sums of the columns in pairs; in
-// arrays of matrices without gaps, those of every fourth element of a run of floats and of every second one of a run of doubles.
+// arrays of matrices without gaps, those of every fourth element of a run of floats and of every second one of a run of doubles, as
+// sum_of_lanes does.
 // The others: one accumulator with as many lanes as a register, for the whole matrix; a square alone goes into lane 0, eight at once
 // go into all of them.
 
@@ -96,12 +97,6 @@ ZELM_INLINE Pack<T> run_sums(const T* p) {
   Pack<T> sum = run.pack[0] * run.pack[0];
   ZELM_UNROLL for (int q = 1; q < Row<T, n>::packs; ++q) sum = sum + run.pack[q] * run.pack[q];
   return sum;
-}
-
-/// (l0 + l1) + (l2 + l3), or l0 + l1, of as many packs as a register has lanes.
-ZELM_INLINE Pack<float> sums_of_lanes(const Pack<float> (&s)[4]) { return pairs_to_lanes(s[0], s[1], s[2], s[3]); }
-ZELM_INLINE Pack<double> sums_of_lanes(const Pack<double> (&s)[2]) {
-  return Pack<double>{shuffle<0>(s[0].raw, s[1].raw)} + Pack<double>{shuffle<3>(s[0].raw, s[1].raw)};
 }
 
 template <int N, class Object>

@@ -345,9 +345,7 @@ ZELM_INLINE Pack<typename Object::T> sums_of(const Object (&objects)[L], int wid
     ZELM_UNROLL for (int l = 0; l < L; ++l) eight[l].start(0, term(l));
     ZELM_AS_IT_STANDS for (j = 8; j + 8 <= width; j += 8) { ZELM_UNROLL for (int l = 0; l < L; ++l) eight[l].add(j, term(l)); }
     ZELM_UNROLL for (int l = 0; l < L; ++l) columns[l] = eight[l].lanes();
-    transpose(columns);
-    if constexpr (L == 2) sum = sum + (columns[0] + columns[1]);
-    else sum = sum + ((columns[0] + columns[2]) + (columns[1] + columns[3]));
+    sum = sum + sums_of_lanes(columns);
   }
   for (; j + L <= width; j += L) {
     ZELM_UNROLL for (int l = 0; l < L; ++l) columns[l] = objects[l].pack(j);

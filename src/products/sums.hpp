@@ -14,6 +14,18 @@ ZELM_INLINE float sum_of_lanes(Pack<float> a) {
 }
 ZELM_INLINE double sum_of_lanes(Pack<double> a) { return _mm_cvtsd_f64(_mm_add_sd(a.raw, _mm_unpackhi_pd(a.raw, a.raw))); }
 
+/// The same of each of as many packs as a register has lanes.
+ZELM_INLINE Pack<float> sums_of_lanes(const Pack<float> (&p)[4]) {
+  const auto halves = [](Pack<float> a, Pack<float> b) {
+    return _mm_add_ps(shuffle<0x44>(a.raw, b.raw), shuffle<0xee>(a.raw, b.raw));
+  };
+  const __m128 low = halves(p[0], p[1]), high = halves(p[2], p[3]);
+  return {_mm_add_ps(shuffle<0x88>(low, high), shuffle<0xdd>(low, high))};
+}
+ZELM_INLINE Pack<double> sums_of_lanes(const Pack<double> (&p)[2]) {
+  return {_mm_add_pd(shuffle<0>(p[0].raw, p[1].raw), shuffle<3>(p[0].raw, p[1].raw))};
+}
+
 /// Elements in front of the first one that lies at a multiple of 16 bytes; -1 if none ever does.
 template <class T>
 ZELM_INLINE int elements_to_alignment(const void* start) {

@@ -76,12 +76,20 @@ class Lanes {
   T lane[4] = {};
 };
 
-/// Columns first, rows ascending; of a run without gaps as many columns as a register has lanes.
+/// Columns first, rows ascending.
 template <class T>
 T by_columns(const std::vector<T>& p, int order) {
   std::vector<T> columns(std::size_t(order), T(0));
   for (std::size_t e = 0; e < p.size(); ++e) columns[e % std::size_t(order)] += p[e];
   return order < 3 ? ascending(columns) : paired(columns);
+}
+
+/// A run without gaps.
+template <class T>
+T by_lanes(const std::vector<T>& p) {
+  T lane[4] = {};
+  for (std::size_t e = 0; e < p.size(); ++e) lane[e % (16 / sizeof(T))] += p[e];
+  return (lane[0] + lane[2]) + (lane[1] + lane[3]);
 }
 
 TEST_P(FrobNorm, EverySizeMemoryAndCount) {
@@ -94,7 +102,7 @@ TEST_P(FrobNorm, EverySizeMemoryAndCount) {
                adjacent = f.array() ? road.kernel->contiguous : stride2 == sizeof(T);
     if (table && square && width == 3) return std::sqrt(ascending(p));
     if (!table && square && (f.array() ? adjacent && width >= 3 && width <= 6 : width <= 5))
-      return std::sqrt(by_columns(p, f.array() && stride1 == width * int(sizeof(T)) ? 16 / int(sizeof(T)) : width));
+      return std::sqrt(f.array() && stride1 == width * int(sizeof(T)) ? by_lanes(p) : by_columns(p, width));
     Lanes<T> lanes;
     if (table || (width * stride2 == stride1 && address % sizeof(T) == 0)) {
       lanes.add(p, !table && adjacent ? address : 0);
