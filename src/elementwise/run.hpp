@@ -142,8 +142,16 @@ __attribute__((noinline)) void run_repeated(Op op, const T* a, const Pattern<T>&
     if constexpr (Q > 0) {
       ZELM_UNROLL for (int q = 0; q < Q; ++q) put<streamed>(combined(Pack<T>::load(a + e + q * L), held[q]), d + e + q * L);
     } else {
-      ZELM_AS_IT_STANDS for (int q = 0; q < packs; ++q)
-          put<streamed>(combined(Pack<T>::load(a + e + q * L), Pack<T>::load_aligned(pattern.elements + q * L)), d + e + q * L);
+      std::ptrdiff_t q = 0;
+      const auto step = [&](auto some) ZELM_INLINE_LAMBDA {
+        ZELM_UNROLL for (int p = 0; p < some; ++p)
+            put<streamed>(combined(Pack<T>::load(a + e + (q + p) * L), Pack<T>::load_aligned(pattern.elements + (q + p) * L)),
+                          d + e + (q + p) * L);
+        q += some;
+        __asm__("" : "+r"(q));
+      };
+      ZELM_AS_IT_STANDS while (q + 5 <= packs) step(std::integral_constant<int, 5>{});
+      ZELM_AS_IT_STANDS while (q < packs) step(std::integral_constant<int, 1>{});
     }
   }
   ZELM_AS_IT_STANDS for (int q = 0; e < n; ++e, ++q) store(d + e, combined(load(a + e), pattern.elements[q]));
