@@ -160,7 +160,7 @@ ZELM_INLINE Row<T, N> row_of_product(const A& a, int i, const Block<T, N, N>& b)
 }
 
 template <int N, class A, class B, class D>
-__attribute__((noinline)) void multiply_each(const A& a, const B& b, D d, std::ptrdiff_t first, std::ptrdiff_t count) {
+ZELM_INLINE void multiply_each_here(const A& a, const B& b, const D& d, std::ptrdiff_t first, std::ptrdiff_t count) {
   const auto left = left_of<N, D>(a);
   const auto right = right_of<N>(b);
   for (std::ptrdiff_t k = first; k < count; ++k) {
@@ -173,6 +173,11 @@ __attribute__((noinline)) void multiply_each(const A& a, const B& b, D d, std::p
       ZELM_UNROLL for (int i = 0; i < N; ++i) z.template set_row<N>(i, row_of_product<N>(x, i, y));
     }
   }
+}
+
+template <int N, class A, class B, class D>
+__attribute__((noinline)) void multiply_each(const A& a, const B& b, D d, std::ptrdiff_t first, std::ptrdiff_t count) {
+  multiply_each_here<N>(a, b, d, first, count);
 }
 
 /// Element (i, j) of as many objects as there are lanes, for all j.
@@ -273,8 +278,10 @@ ZELM_INLINE void multiply_fixed(const A& a, const B& b, const D& d, int count) {
       }
     }
     if (done < count) multiply_each<N>(left, right, d, done, count);
-  } else {
+  } else if constexpr (D::array) {
     multiply_each<N>(a, b, d, 0, count);
+  } else {
+    multiply_each_here<N>(a, b, d, 0, 1);  // a call, and views in memory for it, take half as long as a product of order 4
   }
 }
 
