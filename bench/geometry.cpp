@@ -17,11 +17,6 @@ void fill_matrix(float* m, bool transposed = false) {
     }
 }
 
-/// At the speed of a copy of as many bytes, to within 15 %.
-Limit copying(int in_floats, int out_floats) {
-  return {1.15 * (in_floats + out_floats) / (2 * out_floats), "memcpy", {Set::memory}};
-}
-
 /// Operands of all: vectors, matrices, results.
 Case vectors(const char* operation, int in_floats, int out_floats, int matrices, double ratio) {
   Case c{.operation = operation, .type = "32f", .n = in_floats};
@@ -31,7 +26,7 @@ Case vectors(const char* operation, int in_floats, int out_floats, int matrices,
     for (int m = 0; m < matrices; ++m) fill_matrix(at[1].of<float>() + 16 * m);
   };
   c.tolerance = 1e-5;
-  c.limits = {{ratio, "SSE4.2", {Set::l1}}, copying(in_floats, out_floats)};
+  c.limits = {{ratio, "SSE4.2", {Set::l1}}, {1.15, "copy", {Set::memory}}};
   return c;
 }
 
