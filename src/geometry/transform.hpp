@@ -173,10 +173,14 @@ struct Lanewise {
       for (int r = 0; r < 4; ++r) column[c][r] = P::splat(load(m + 4 * r + c));
   }
   ZELM_INLINE int operator()(const P (&v)[Kind::in], P (&r)[Kind::out]) const {
-    ZELM_UNROLL for (int c = 0; c < Kind::out; ++c) r[c] = Kind::column(column[c], v);
+    P w;
     if constexpr (divides<Kind>) {
-      const P w = Kind::column(column[3], v);
-      ZELM_UNROLL for (int c = 0; c < Kind::out; ++c) r[c] = r[c] / w;
+      w = Kind::column(column[3], v);
+      __asm__ volatile("" : "+x"(w.raw));  // first, since the divisions wait for it
+    }
+    ZELM_UNROLL for (int c = 0; c < Kind::out; ++c) {
+      r[c] = Kind::column(column[c], v);
+      if constexpr (divides<Kind>) r[c] = r[c] / w;
     }
     return 0;
   }
