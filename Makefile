@@ -11,8 +11,8 @@ FORMATTED = $(shell find include src tests bench examples \( -name '*.[ch]' -o -
 
 build: ## both libraries, for x86-64 and i386
 	@tools/setup.sh build
-	cmake --preset x86_64 && cmake --build --preset x86_64 -j $(JOBS)
-	cmake --preset i386 && cmake --build --preset i386 -j $(JOBS)
+	cmake --preset x86_64 && cmake --build --preset x86_64 -j $(JOBS) --target zelmp8
+	cmake --preset i386 && cmake --build --preset i386 -j $(JOBS) --target zelmp8
 
 demo: ## fits the terrain of a real elevation grid
 	@tools/setup.sh build demo
