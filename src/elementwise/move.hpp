@@ -204,6 +204,22 @@ inline void transpose_packed(const float* s, float* d, std::ptrdiff_t count) {
   }
 }
 
+/// 3 x 3, rows anywhere, to nine elements without gaps: three stores instead of six, which is what the loop waits for.
+template <class S>
+void transpose_to_packed(S s, float* d, std::ptrdiff_t count) {
+  for (std::ptrdiff_t k = 0; k < count; ++k, d += 9) {
+    const auto from = s.object(k);
+    const auto two = [&](int i) { return Pack<float>::load_first<2>(from.at(i, 0)).raw; };
+    const auto third = [&](int i) { return _mm_load_ss(from.at(i, 2)); };
+    const __m128 e00e01e10e11 = shuffle<0x44>(two(0), two(1)), e20e21 = two(2);
+    const __m128 e20e01 = shuffle<0x50>(e20e21, e00e01e10e11), e11e21 = shuffle<0x5f>(e00e01e10e11, e20e21);
+    const __m128 e02e12 = shuffle<0x00>(third(0), third(1)), last = third(2);
+    _mm_storeu_ps(d, shuffle<0x88>(e00e01e10e11, e20e01));
+    _mm_storeu_ps(d + 4, shuffle<0x88>(e11e21, e02e12));
+    _mm_store_ss(d + 8, last);
+  }
+}
+
 /// Object of height x width to object of width x height.
 template <class S, class D>
 void transpose_objects(S s, D d, int width, int height, std::ptrdiff_t count) {
@@ -212,6 +228,7 @@ void transpose_objects(S s, D d, int width, int height, std::ptrdiff_t count) {
       if constexpr (std::is_same_v<typename D::T, float>) {
         if (width == 3 && count > 1 && s.tight(3, 3) && d.tight(3, 3))
           return transpose_packed(s.object(0).base, d.object(0).base, count);
+        if (width == 3 && count > 1 && d.tight(3, 3)) return transpose_to_packed(s, d.object(0).base, count);
       }
       switch (width) {
         case 3: return transpose_fixed<3>(s, d, count);
