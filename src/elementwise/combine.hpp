@@ -123,6 +123,24 @@ void combine_fixed(Op op, A a, B b, D d, int count) {
   }
 }
 
+/// An operand of 3 x 3 floats as one run of elements, where it is one or can be made one in registers.
+template <class View>
+ZELM_INLINE bool is_run_of_nine(const View& v) {
+  if constexpr (View::constant || View::Object::turned) return true;
+  else if constexpr (View::Object::plain) return v.row_stride == 3 * Bytes(sizeof(float));
+  else return false;
+}
+template <class Object>
+ZELM_INLINE Row<float, 9> run_of_nine(const Object& object) {
+  if constexpr (Object::turned) return run_of_columns(object.stored);
+  else if constexpr (requires { object.value; }) return Row<float, 9>::splat(object.value);
+  else return Row<float, 9>::load(object.base);
+}
+template <class Op, class A, class B, class D>
+__attribute__((noinline)) void combine_runs_of_nine(Op op, A a, B b, D d, int count) {
+  for (int k = 0; k < count; ++k) lanewise(op, run_of_nine(a.object(k)), run_of_nine(b.object(k))).store(d.object(k).base);
+}
+
 /// One row in ascending order, each element stored before the next is read.
 template <class Op, class X, class Y, class Z>
 void combine_in_order(Op op, const X& x, const Y& y, const Z& z, int i, int columns) {
@@ -166,6 +184,11 @@ template <class Op, class A, class B, class D>
 ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int width, int height, int count) {
   if (combine_tight(op, a, b, d, height, width, count)) return;
   if (combine_interleaved(op, a, b, d, height, width, count)) return;
+  constexpr bool turned = (A::Object::turned || B::Object::turned) && (A::array || A::constant) && (B::array || B::constant);
+  if constexpr (turned && D::array && D::Object::plain && sizeof(typename D::T) == 4) {
+    if (width == 3 && height == 3 && is_run_of_nine(a) && is_run_of_nine(b) && is_run_of_nine(d))
+      return combine_runs_of_nine(op, a, b, d, count);
+  }
   if (width != height || width < 3 || width > 6) combine_rest<false>(op, a, b, d, height, width, count);
   else if (width == 3) combine_fixed<3, 3>(op, a, b, d, count);
   else if (width == 4) combine_fixed<4, 4>(op, a, b, d, count);

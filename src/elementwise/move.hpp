@@ -204,20 +204,10 @@ inline void transpose_packed(const float* s, float* d, std::ptrdiff_t count) {
   }
 }
 
-/// 3 x 3, rows anywhere, to nine elements without gaps: three stores instead of six, which is what the loop waits for.
+/// 3 x 3, rows anywhere, to nine elements without gaps.
 template <class S>
 void transpose_to_packed(S s, float* d, std::ptrdiff_t count) {
-  for (std::ptrdiff_t k = 0; k < count; ++k, d += 9) {
-    const auto from = s.object(k);
-    const auto two = [&](int i) { return Pack<float>::load_first<2>(from.at(i, 0)).raw; };
-    const auto third = [&](int i) { return _mm_load_ss(from.at(i, 2)); };
-    const __m128 e00e01e10e11 = shuffle<0x44>(two(0), two(1)), e20e21 = two(2);
-    const __m128 e20e01 = shuffle<0x50>(e20e21, e00e01e10e11), e11e21 = shuffle<0x5f>(e00e01e10e11, e20e21);
-    const __m128 e02e12 = shuffle<0x00>(third(0), third(1)), last = third(2);
-    _mm_storeu_ps(d, shuffle<0x88>(e00e01e10e11, e20e01));
-    _mm_storeu_ps(d + 4, shuffle<0x88>(e11e21, e02e12));
-    _mm_store_ss(d + 8, last);
-  }
+  for (std::ptrdiff_t k = 0; k < count; ++k, d += 9) run_of_columns(s.object(k)).store(d);
 }
 
 /// Object of height x width to object of width x height.

@@ -63,6 +63,17 @@ ZELM_INLINE auto along_row(const Object& object, int i) {
   else return Same<typename Object::T>{object.element(i, 0)};
 }
 
+/// The transpose of 3 x 3 floats as one run: three stores instead of the six of its rows, which is what loops wait for.
+template <class Object>
+ZELM_INLINE Row<float, 9> run_of_columns(const Object& from) {
+  const auto two = [&](int i) { return Pack<float>::load_first<2>(from.at(i, 0)).raw; };
+  const auto third = [&](int i) { return Pack<float>::load_first<1>(from.at(i, 2)); };
+  const __m128 e00e01e10e11 = shuffle<0x44>(two(0), two(1)), e20e21 = two(2);
+  const __m128 e20e01 = shuffle<0x50>(e20e21, e00e01e10e11), e11e21 = shuffle<0x5f>(e00e01e10e11, e20e21);
+  const __m128 e02e12 = shuffle<0x00>(third(0).raw, third(1).raw);
+  return {{{shuffle<0x88>(e00e01e10e11, e20e01)}, {shuffle<0x88>(e11e21, e02e12)}, third(2)}};
+}
+
 /// Of objects of N elements one after the other, register q: each element's object's lane of `values`.
 template <int N, int q>
 ZELM_INLINE Pack<float> spread(Pack<float> values) {
