@@ -9,7 +9,7 @@
 namespace zelm::bench {
 namespace {
 
-std::vector<Limit> limits(double l1) { return {{l1, "SSE4.2", {Set::l1}}, {1.05, "native", {Set::llc, Set::memory}}}; }
+std::vector<Limit> limits(double l1) { return {{l1, "SSE4.2", {Set::l1}}, {1.05, "native", {Set::llc, Set::memory}, "read"}}; }
 
 template <class T, class Call>
 bool reduction(const char* operation, int n, std::vector<Operand> operands, std::vector<Limit> limits, Call call,

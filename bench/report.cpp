@@ -103,7 +103,8 @@ void Report::bandwidth(std::vector<Bandwidth> measured) {
 double Report::reference(const Row& row, const std::string& rival) const {
   if (rival == "ns") return 1;
   for (const Bandwidth& b : bandwidth_)
-    if (b.name == rival && b.set == row.set && b.threads == row.threads && (rival == "copy" || rival == "triad"))
+    if (b.name == rival && b.set == row.set && b.threads == row.threads &&
+        (rival == "read" || rival == "copy" || rival == "triad"))
       return row.bytes / b.bytes_per_ns;
   double ns = 0;
   const auto candidate = [&](double t) { ns = ns == 0 ? t : std::min(ns, t); };
@@ -123,7 +124,8 @@ std::vector<Report::Verdict> Report::verdicts(const Row& row) const {
     char text[64];
     std::snprintf(text, sizeof text, limit.rival == "ns" ? "%g %s" : "%g of %s", limit.ratio, limit.rival.c_str());
     const double share = row.ns / reference_ns;
-    list.push_back({text, share, share <= limit.ratio});
+    const bool near = !limit.or_near.empty() && row.ns <= 1.15 * reference(row, limit.or_near);
+    list.push_back({text, share, share <= limit.ratio || near});
   }
   return list;
 }
