@@ -77,8 +77,8 @@ class Results {
 
 /// The time of zelm is to be at most `ratio` of that of `rival`: "SSE4.2" or "native" for the best rival of the kind,
 /// "any" for the best of both, "Eigen native" and so on for one of them, "read", "copy" and "triad" for what the bandwidth of
-/// these makes of the bytes, "memcpy" for copying as many bytes and "memset" for clearing them, "one thread" in the set `many`, "ns" for the nanosecond. It holds with one thread, elsewhere than in
-/// `many`.
+/// these makes of the bytes, "memcpy" for copying as many bytes and "memset" for clearing them, "one thread" in the set
+/// `many`, "ns" for the nanosecond. It holds with one thread, elsewhere than in `many`.
 struct Limit {
   double ratio;
   std::string rival;

@@ -109,8 +109,7 @@ double Report::reference(const Row& row, const std::string& rival) const {
   double ns = 0;
   const auto candidate = [&](double t) { ns = ns == 0 ? t : std::min(ns, t); };
   for (const Timing& t : row.rivals)
-    if (t.aside) continue;
-    else if (rival == "any" || rival == t.isa || rival == t.name || rival == t.name + " " + t.isa) candidate(t.ns);
+    if (!t.aside && (rival == "any" || rival == t.isa || rival == t.name || rival == t.name + " " + t.isa)) candidate(t.ns);
   return ns;
 }
 
@@ -125,7 +124,7 @@ std::vector<Report::Verdict> Report::verdicts(const Row& row) const {
     std::snprintf(text, sizeof text, limit.rival == "ns" ? "%g %s" : "%g of %s", limit.ratio, limit.rival.c_str());
     const double share = row.ns / reference_ns;
     const bool near = !limit.or_near.empty() && row.ns <= 1.15 * reference(row, limit.or_near);
-    list.push_back({text, share, share <= limit.ratio || near});
+    list.push_back({text + (limit.or_near.empty() ? "" : " or 1.15 of " + limit.or_near), share, share <= limit.ratio || near});
   }
   return list;
 }

@@ -47,7 +47,7 @@ ZelStatus solve_pair(const Object& source, T* values, const Rules& rules, Put pu
 
   const bool turned = diff < -epsilon;
   const T w = turned ? diff - length : diff + length;
-  T u = 0, v = 1;
+  T u = 0, v = 1;  // reciprocals of roots in double, rounded once
   if (std::fabs(w) > std::fabs(q)) {
     const T t = (0 - q) / w;
     u = T(1 / root(double(t * t + 1)));

@@ -160,19 +160,17 @@ ZELM_INLINE constexpr auto single_strided() {
   else return turned ? p8_ownzelmMul_tv_64f_S2 : p8_ownzelmMul_mv_64f_S2;
 }
 
-/// In sizes 3 x 3 to 6 x 6 `Fixed`, or in none of them; in all others `General`.
+/// In sizes 3 x 3 to 6 x 6 `Fixed`, in all others `General`.
 template <class Fixed, class General>
 struct Sums {
   template <bool turned, class A, class B, class C, class D>
   static ZELM_INLINE void run(const A& a, int width, int height, const B& b, const C& c, const D& d, int count) {
-    if constexpr (!std::is_void_v<Fixed>) {
-      if (width == height) switch (width) {
-          case 3: return fixed<Fixed, 3, turned>(a, b, c, d, count);
-          case 4: return fixed<Fixed, 4, turned>(a, b, c, d, count);
-          case 5: return fixed<Fixed, 5, turned>(a, b, c, d, count);
-          case 6: return fixed<Fixed, 6, turned>(a, b, c, d, count);
-        }
-    }
+    if (width == height) switch (width) {
+        case 3: return fixed<Fixed, 3, turned>(a, b, c, d, count);
+        case 4: return fixed<Fixed, 4, turned>(a, b, c, d, count);
+        case 5: return fixed<Fixed, 5, turned>(a, b, c, d, count);
+        case 6: return fixed<Fixed, 6, turned>(a, b, c, d, count);
+      }
     const int rows = turned ? width : height, length = turned ? height : width;
     std::ptrdiff_t n = 0;
     if constexpr (std::is_same_v<General, OneByOne> && D::array && !D::plain) {
@@ -188,7 +186,7 @@ struct Sums {
     if constexpr (!A::array && D::array && requires { typename General::InLanes; }) {
       using T = typename D::T;
       if constexpr (B::plain && D::plain) {
-        // Orders whose columns are whole registers and all rows of whole blocks, and vectors without leading terms.
+        // Columns of 8 and 12 fill whole registers, all their rows are in blocks, and aligned vectors have no leading terms.
         if (rows == length && (reinterpret_cast<std::uintptr_t>(b.first) | std::uintptr_t(b.stride0)) % 16 == 0) {
           using Order = typename General::template InColumns<T>;
           if (rows == 8) return in_columns<Order, 8>(columns_of<turned>(a), b, c, d, count);

@@ -1,5 +1,5 @@
-// apply_any.hpp: dst = op(A) x (+ y) of any size, one object at a time, in the sum orders of the sizes that have no path of their
-// own. Every sum starts from +0.
+// apply_any.hpp: dst = op(A) x (+ y) of any size, in the sum orders of the sizes that have no path of their own: one object at a
+// time, or with one matrix as many vectors as a register has lanes. Every sum starts from +0.
 #pragma once
 #include "frame/views.hpp"
 #include "products/sums.hpp"
@@ -15,8 +15,8 @@ void in_blocks(const T* a, Bytes row_stride, const T* x, T* d, int rows, int len
 /// The same with steps of eight for all elements of dst, from where x reaches a multiple of 16 bytes.
 void in_rows(const float* a, Bytes row_stride, const float* x, float* d, int rows, int length);
 
-// The same sums with as many objects as a register has lanes at once, for one matrix and many vectors. Both give the sum of element i
-// of `rows`; `lead` is the number of elements before x reaches a multiple of 16 bytes.
+// The sums of in_blocks and of in_rows in lanes: that of element i of `rows` in each of several objects, whose vectors all have `lead`
+// elements before a multiple of 16 bytes. `step`: below so many elements behind them there are none.
 
 struct LanesOfBlocks {
   template <class T>
@@ -40,7 +40,7 @@ struct LanesOfRows {
 /// Matrices of up to so many elements are held with every element in all lanes, if there are vectors enough to pay for that.
 inline constexpr int kMostHeld = 256, kLeastVectors = 16;
 
-/// `one`: does a single object. Vectors go together if their sums have the same leading terms, or no steps.
+/// One matrix and many vectors, several at once if their sums have the same leading terms, or no steps; the others by one(k).
 template <class Sum, class A, class B, class D, class One>
 __attribute__((noinline)) void in_object_lanes(A matrix, B b, D d, int rows, int length, std::ptrdiff_t count, One one) {
   using T = typename D::T;

@@ -1,4 +1,4 @@
-// apply_fixed.hpp: dst = op(A) x (+ y) in the sizes 3 to 6, for whole arrays. Three ways through the registers:
+// apply_fixed.hpp: dst = op(A) x (+ y) of a known size, for whole arrays: 3 to 6, and 8 and 12. Three ways through the registers:
 //   in_lanes     lanes are objects: any memory, any sum order
 //   in_columns   lanes are elements of dst: columns of op(A), each scaled by an element of x
 //   in_pairs     lanes are pairs of neighbouring k: even and odd k add up apart, and no element of x is ever shuffled
@@ -55,7 +55,7 @@ struct Batched {
 };
 
 /// The first `lead` products are added before the lanes of those that follow, a step of them at a time; then comes what is left. With
-/// a lead of -1 there are no lanes. Sums from +0.
+/// a lead of -1 there are no lanes.
 template <int lead, int step>
 struct Led {
   static constexpr bool from_zero = true;
@@ -82,11 +82,14 @@ struct AsBlocks {
   static constexpr bool from_zero = true;
 };
 
+/// True of orders whose sums start from +0, not from the first product. They are given it at the end: all it changes is the sign of
+/// a sum of zeros.
 template <class Order>
 inline constexpr bool from_zero = requires {
   Order::from_zero;
 };
 
+/// Calls body with the order itself, or with the one that AsBlocks is for the vector x.
 template <class Order, int N, class X, class Body>
 ZELM_INLINE void with_order(const X& x, Body body) {
   constexpr int L = Pack<typename X::T>::lanes;

@@ -66,8 +66,7 @@ ZELM_INLINE ZelStatus euclidean(View a, typename View::T* d, int width, int coun
 }
 
 // Frobenius norms. Fixed orders: the squares of every column are added, rows ascending, and then the sums of the columns in pairs; in
-// arrays of matrices without gaps, those of every fourth element of a run of floats and of every second one of a run of doubles, as
-// sum_of_lanes does.
+// arrays of matrices without gaps the elements are one run, of which every lane of a register adds its own.
 // The others: one accumulator with as many lanes as a register, for the whole matrix; a square alone goes into lane 0, eight at once
 // go into all of them.
 
@@ -90,7 +89,7 @@ ZELM_INLINE Row<typename Object::T, N> column_sums(const Object& a) {
   return sum;
 }
 
-/// Sums of the squares of every element, of every fourth one or of every second one that follow one another in a run of n.
+/// The squares of a run of n elements, added up in the lanes of one register.
 template <int n, class T>
 ZELM_INLINE Pack<T> run_sums(const T* p) {
   const auto run = Row<T, n>::load(p);

@@ -151,7 +151,7 @@ struct Products {
   }
   ZELM_INLINE bool interleaved() const { return a.interleaved() && (!B::array || b.interleaved()); }
   ZELM_INLINE bool tight(int n) const { return a.tight(1, n) && (!B::array || b.tight(1, n)); }
-  /// True if no object is known to have leading terms.
+  /// True if it is known that no object has leading terms.
   ZELM_INLINE bool led_by_none() const { return aligned_objects(b); }
   ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k, int j) const { return beside(a, k, 0, j) * beside(b, k, 0, j); }
 

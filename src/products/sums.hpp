@@ -55,15 +55,15 @@ struct EightLanes {
     ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = part[p] - a(k + p * L) * b(k + p * L);
   }
 
-  /// Starts from the terms themselves, which takes no additions; what comes of it is the sum from 0 on once 0 is added.
-  template <class Term>
-  ZELM_INLINE void start(int k, Term term) {
-    ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = term(k + p * L);
-  }
-  /// The same of terms that are products already.
+  /// Adds terms that are products already.
   template <class Term>
   ZELM_INLINE void add(int k, Term term) {
     ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = part[p] + term(k + p * L);
+  }
+  /// The first of them, in place of +0: adding +0 to the sum gives a sum of zeros its sign back.
+  template <class Term>
+  ZELM_INLINE void start(int k, Term term) {
+    ZELM_UNROLL for (int p = 0; p < packs; ++p) part[p] = term(k + p * L);
   }
 
   /// The packs added up.
