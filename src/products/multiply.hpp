@@ -281,7 +281,7 @@ ZELM_INLINE void multiply_fixed(const A& a, const B& b, const D& d, int count) {
   } else if constexpr (D::array) {
     multiply_each<N>(a, b, d, 0, count);
   } else {
-    multiply_each_here<N>(a, b, d, 0, 1);  // a call, and views in memory for it, take half as long as a product of order 4
+    multiply_each_here<N>(a, b, d, 0, 1);  // a call, and views in memory for it, took 6 of 17 ns of an order 4
   }
 }
 
