@@ -129,12 +129,17 @@ struct Pattern {
     const int size = rows * columns;
     const int copies = int(copies_of(size));
     packs = copies * size / L;
-    int filled = 0;
+    const bool tight = [&] {
+      if constexpr (Object::plain) return object.at(1, 0) == object.at(0, columns);
+      else return false;
+    }();
+    if (tight) rows = 1, columns = size;
+    T* filled = elements;
     for (int c = 0; c < copies; ++c) {
       for (int i = 0; i < rows; ++i) {
         if constexpr (Object::plain)
-          std::memcpy(elements + filled, object.at(i, 0), std::size_t(columns) * sizeof(T)), filled += columns;
-        else ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) elements[filled++] = object.element(i, j);
+          run_packs([](auto x, auto) { return x; }, along_row(object, i), Same<T>{T()}, filled, columns), filled += columns;
+        else ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j)* filled++ = object.element(i, j);
       }
     }
   }

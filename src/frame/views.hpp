@@ -140,6 +140,12 @@ struct StridedView {
   ZELM_INLINE bool interleaved() const { return array && stride0 == Bytes(sizeof(T)); }
 };
 
+/// True of what as_tight gives.
+template <class View>
+inline constexpr bool known_tight = false;
+template <class Element, int rows, int columns>
+inline constexpr bool known_tight<StridedView<Element, true, true, rows, columns>> = columns > 0;
+
 template <class Element, bool adjacent>
 struct ListView {
   using T = std::remove_const_t<Element>;

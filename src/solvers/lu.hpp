@@ -10,6 +10,7 @@
 #include <limits>
 
 #include "frame/lanes.hpp"
+#include "simd/many.hpp"
 #include "solvers/lu_cores.hpp"
 #include "zelm_types.h"
 
@@ -188,28 +189,49 @@ ZELM_INLINE void substitute(P (&x)[N], Factor factor, ByPivot by_pivot) {
   }
 }
 
+/// Blocks of objects substituted in step. The operations of one block wait for each other for about 130 cycles, and those that
+/// wait fill the processor's queue before enough other blocks have begun; in step they wait less: 10 to 30 % of the time. For
+/// arrays without gaps, whose addresses take few instructions.
+inline constexpr int kBlocksInStep = 4;
+
 /// Every vector with a matrix of its own, or one vector: division by the pivots.
 template <int N, bool beside, class A, class B, class D>
 void solve_each(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  for_blocks<L>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
-    typename A::Object matrices[L];
-    typename B::Object vectors[L];
-    const int* order[L];
-    a.objects(k, valid, matrices);
-    b.objects(k, valid, vectors);
-    ZELM_UNROLL for (int l = 0; l < L; ++l) order[l] = index + (k + std::min<int>(l, valid - 1)) * N;
-    Lanes<T, N, N> f;
-    Lanes<T, 1, N> x;
-    ZELM_UNROLL for (int i = 0; i < N; ++i) {
-      load_row(f.e[i], matrices, [&](int l) { return load(order[l] + i); });
-      x.e[0][i] = Pack<T>::template gather<L>([&](int l) { return vectors[l].at(0, load(order[l] + i)); });
+  const auto solve_blocks = [=](std::ptrdiff_t first, auto blocks, auto valid) ZELM_INLINE_LAMBDA {
+    Many<T, blocks * L> f[N][N], x[N];
+    ZELM_UNROLL for (int g = 0; g < blocks; ++g) {
+      const std::ptrdiff_t k = first + g * L;
+      typename A::Object matrices[L];
+      typename B::Object vectors[L];
+      const int* order[L];
+      a.objects(k, valid, matrices);
+      b.objects(k, valid, vectors);
+      ZELM_UNROLL for (int l = 0; l < L; ++l) order[l] = index + (k + std::min<int>(l, valid - 1)) * N;
+      ZELM_UNROLL for (int i = 0; i < N; ++i) {
+        Pack<T> row[N];
+        load_row(row, matrices, [&](int l) { return load(order[l] + i); });
+        ZELM_UNROLL for (int j = 0; j < N; ++j) f[i][j].part[g] = row[j];
+        x[i].part[g] = Pack<T>::template gather<L>([&](int l) { return vectors[l].at(0, load(order[l] + i)); });
+      }
     }
     substitute<N>(
-        x.e[0], [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v / f.e[i][i]; });
-    x.template store<beside>(d, k, valid);
-  });
+        x, [&](int i, int j) { return f[i][j]; }, [&](auto v, int i) { return v / f[i][i]; });
+    ZELM_UNROLL for (int g = 0; g < blocks; ++g) {
+      Lanes<T, 1, N> solution;
+      ZELM_UNROLL for (int i = 0; i < N; ++i) solution.e[0][i] = x[i].part[g];
+      solution.template store<beside>(d, first + g * L, valid);
+    }
+  };
+  std::ptrdiff_t k = 0;
+  if constexpr (known_tight<A> && known_tight<B> && known_tight<D>) {
+    constexpr int in_step = kBlocksInStep * L;
+    for (; k + in_step <= count; k += in_step)
+      solve_blocks(k, std::integral_constant<int, kBlocksInStep>{}, std::integral_constant<int, L>{});
+  }
+  for_blocks<L>(int(count - k), [=](std::ptrdiff_t from, auto valid)
+                                    ZELM_INLINE_LAMBDA { solve_blocks(k + from, std::integral_constant<int, 1>{}, valid); });
 }
 
 /// The factors of the one matrix of a call, every element in all lanes, rows in pivot order.
