@@ -20,8 +20,10 @@ ZELM_INLINE void rows_to_lanes(Pack<float> (&e)[N], Address at) {
     ZELM_UNROLL for (int l = 0; l < 4; ++l) e[j + l] = tile[l];
   }
   if constexpr (pairs > 0) {
-    const auto two = [&](int l) { return P::load_first<2>(at(l) + full).raw; };
-    const __m128 low = shuffle<0x44>(two(0), two(1)), high = shuffle<0x44>(two(2), two(3));
+    const auto two_of_each = [&](int l) {
+      return _mm_loadh_pi(P::load_first<2>(at(l) + full).raw, reinterpret_cast<const __m64*>(at(l + 1) + full));
+    };
+    const __m128 low = two_of_each(0), high = two_of_each(2);
     e[full].raw = shuffle<0x88>(low, high);
     e[full + 1].raw = shuffle<0xdd>(low, high);
   }
@@ -30,14 +32,8 @@ ZELM_INLINE void rows_to_lanes(Pack<float> (&e)[N], Address at) {
 
 template <int N, class Address>
 ZELM_INLINE void rows_to_lanes(Pack<double> (&e)[N], Address at) {
-  using P = Pack<double>;
-  ZELM_UNROLL for (int j = 0; j + 1 < N; j += 2) {
-    P tile[2] = {P::load(at(0) + j), P::load(at(1) + j)};
-    transpose(tile);
-    e[j] = tile[0];
-    e[j + 1] = tile[1];
-  }
-  if constexpr (N % 2) e[N - 1] = P::gather<2>([&](int l) { return at(l) + (N - 1); });
+  // Two loads of eight bytes for each: whole registers would need a shuffle and half a copy more.
+  ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = Pack<double>::gather<2>([&](int l) { return at(l) + j; });
 }
 
 /// The other way.
