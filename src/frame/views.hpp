@@ -101,6 +101,14 @@ struct ConstantObject {
   }
 };
 
+/// Element (i, j) in all lanes.
+template <class Object>
+ZELM_INLINE auto splat_of(const Object& object, int i, int j) {
+  using P = Pack<typename Object::T>;
+  if constexpr (requires { object.at(i, j); }) return P::splat_from(object.at(i, j));
+  else return P::splat(object.element(i, j));
+}
+
 /// `rows`, `columns`: if not 0, the objects are of this size and without gaps (as_tight).
 template <class Element, bool adjacent, bool is_array, int rows = 0, int columns = 0>
 struct StridedView {
@@ -317,16 +325,25 @@ ZELM_INLINE ConstantsView<E, true> constant_list(E* const* pp, int shift) {
 
 // Fixed sizes
 
-/// All R x C elements of an object in registers. A transposed object with contiguous rows is transposed there.
+/// All R x C elements of an object in registers. A transposed object of floats with contiguous rows is transposed there; doubles
+/// come in halves with as many shuffles and fewer instructions.
 template <int R, int C, class Object>
 ZELM_INLINE Block<typename Object::T, R, C> block_of(const Object& object) {
-  if constexpr (Object::turned) {
-    return transposed(block_of<C, R>(object.stored));
+  using T = typename Object::T;
+  Block<T, R, C> b;
+  if constexpr (Object::turned && sizeof(T) == 4) {
+    b = transposed(block_of<C, R>(object.stored));
+  } else if constexpr (Object::turned) {
+    const T* columns[C];
+    ZELM_UNROLL for (int j = 0; j < C; ++j) {
+      columns[j] = object.at(0, j);
+      __asm__("" : "+r"(columns[j]));  // else each address of an element is made from the one before
+    }
+    ZELM_UNROLL for (int i = 0; i < R; ++i) b.rows[i] = Row<T, C>::gather([&](int j) { return columns[j] + i; });
   } else {
-    Block<typename Object::T, R, C> b;
     ZELM_UNROLL for (int i = 0; i < R; ++i) b.rows[i] = object.template row<C>(i);
-    return b;
   }
+  return b;
 }
 
 /// A single operand read once, before the loop over the objects.

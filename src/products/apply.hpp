@@ -71,9 +71,7 @@ ZELM_INLINE void fixed_contiguous(const A& a, const B& b, const C& c, const D& d
   const auto columns = columns_of<turned>(a);
   if constexpr (A::array && turned) in_columns<Order, N>(columns, b, c, d, count);
   else if constexpr (N % 2 == 0 && !std::is_same_v<Order, Ascending>) in_pairs<N>(rows_for<turned>(a), b, c, d, count);
-  else if constexpr (!A::array && N == 3 && std::is_same_v<T, double> && std::is_same_v<Order, Ascending>)
-    in_any_memory<N, turned>(a, b, c, d, count);
-  else if constexpr (!A::array && std::is_same_v<T, double>) in_columns<Order, N>(columns, b, c, d, count);
+  else if constexpr (std::is_same_v<T, double>) in_columns<Order, N>(columns, b, c, d, count);
   else in_lanes<Order, N, turned, false>(a, b, c, d, count);
 }
 

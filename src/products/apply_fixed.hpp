@@ -231,7 +231,7 @@ struct Factors {
   ZELM_INLINE Packs at(std::ptrdiff_t n) const {
     const auto x = view.object(n);
     Packs splats;
-    ZELM_UNROLL for (int k = 0; k < N; ++k) splats.e[k] = P::splat(x.element(0, k));
+    ZELM_UNROLL for (int k = 0; k < N; ++k) splats.e[k] = splat_of(x, 0, k);
     return splats;
   }
 };

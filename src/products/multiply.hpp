@@ -104,7 +104,7 @@ struct LeftRow {
       if (k < 4 * full) return spread_lane(four[k / 4], k % 4);
       if (k < 4 * full + 2 * pairs) return spread_lane(two, k % 4);
     }
-    return Pack<T>::splat(a.element(i, k));
+    return splat_of(a, i, k);
   }
 };
 template <int N, class T>

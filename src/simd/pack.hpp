@@ -67,6 +67,7 @@ struct Pack<float> {
 
   static ZELM_INLINE Pack zero() { return {_mm_setzero_ps()}; }
   static ZELM_INLINE Pack splat(float x) { return {_mm_set1_ps(x)}; }
+  static ZELM_INLINE Pack splat_from(const float* p) { return splat(zelm::load(p)); }
   static ZELM_INLINE Pack load(const float* p) { return {_mm_loadu_ps(p)}; }
   static ZELM_INLINE Pack load_aligned(const float* p) { return {_mm_load_ps(p)}; }
   ZELM_INLINE void store(float* p) const { _mm_storeu_ps(p, raw); }
@@ -151,6 +152,12 @@ struct Pack<double> {
 
   static ZELM_INLINE Pack zero() { return {_mm_setzero_pd()}; }
   static ZELM_INLINE Pack splat(double x) { return {_mm_set1_pd(x)}; }
+  /// One load. Without the barrier a compiler that finds a use of one lane alone makes a load and a shuffle of it.
+  static ZELM_INLINE Pack splat_from(const double* p) {
+    __m128d both = _mm_loaddup_pd(p);
+    __asm__("" : "+x"(both));
+    return {both};
+  }
   static ZELM_INLINE Pack load(const double* p) { return {_mm_loadu_pd(p)}; }
   static ZELM_INLINE Pack load_aligned(const double* p) { return {_mm_load_pd(p)}; }
   ZELM_INLINE void store(double* p) const { _mm_storeu_pd(p, raw); }
