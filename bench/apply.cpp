@@ -28,6 +28,7 @@ Case product(const char* operation, int n, std::vector<Operand> operands) {
   Case c{.operation = operation, .type = kTypeTag<T>, .n = n};
   c.operands = std::move(operands);
   c.tolerance = 4 * n * double(std::numeric_limits<T>::epsilon());
+  c.terms = 1;
   c.limits = {{0.9, "SSE4.2", {Set::l1}}};
   return c;
 }

@@ -281,7 +281,7 @@ void check(const Case& c, const Arrays& arrays, std::vector<Competitor>& competi
         expected.push_back(values);
         continue;
       }
-      double largest = 0;
+      double largest = c.terms;
       for (const double v : expected[s]) largest = std::max(largest, std::abs(v));
       for (std::size_t e = 0; e < values.size(); ++e)
         if (!(std::abs(values[e] - expected[s][e]) <= c.tolerance * largest)) {

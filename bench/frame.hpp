@@ -100,10 +100,11 @@ struct Case {
   std::function<ZelStatus(const Array*, int count)> call;
   /// Writes the inputs of the first `count` objects; default: floating-point numbers from -1 to 1.
   std::function<void(const Array*, int count)> fill;
-  /// What competitors have to agree on for one object, to within `tolerance` of the largest number; default: all
-  /// outputs.
+  /// What competitors have to agree on for one object, to within `tolerance` of the largest number, or of `terms` if that is
+  /// more; default: all outputs.
   std::function<std::vector<double>(const Results&, std::ptrdiff_t object)> meaning;
   double tolerance = 0;
+  double terms = 0;  // the size of what the numbers are sums of, where all may cancel
   /// How wrong the results of one object are, where rivals are printed aside.
   std::function<double(const Results&, std::ptrdiff_t object)> residual;
   std::vector<Limit> limits;

@@ -25,6 +25,7 @@ void product(const char* operation, int n, Operand a, Operand b, Operand d, Call
   c.operands = {a, b, d};
   c.call = call;
   c.tolerance = kTolerance<T>;
+  c.terms = 1;
   c.limits = kept;
   c.threads = {1};
   if (slot > 0) {  // gaps: compare only what belongs to a matrix
@@ -123,6 +124,7 @@ bool one_object(F f) {
     constexpr int E = sizeof(T);
     Case c{.operation = "Mul_mm", .type = kTypeTag<T>, .n = n};
     c.tolerance = kTolerance<T>;
+    c.terms = 1;
     c.operands = {single(in<T>(n * n)), single(in<T>(n * n)), single(out<T>(n * n))};
     c.call = repeated([=](const Array* at) {
       return f(at[0].of<T>(), n * E, E, n, n, at[1].of<T>(), n * E, E, n, n, at[2].of<T>(), n * E, E);
