@@ -180,8 +180,39 @@ __attribute__((noinline)) void multiply_each(const A& a, const B& b, D d, std::p
   multiply_each_here<N>(a, b, d, first, count);
 }
 
+/// Interleaved objects by the addresses of the first one's elements, looked up once for the whole array.
+template <class Element, int N>
+struct Planes {
+  using T = std::remove_const_t<Element>;
+  static constexpr bool array = true;
+  Element* first[N][N];
+  struct Object {
+    static constexpr bool plain = false;
+    const Planes& planes;
+    std::ptrdiff_t k;
+    ZELM_INLINE Element* at(int i, int j) const { return planes.first[i][j] + k; }
+  };
+  ZELM_INLINE Object object(std::ptrdiff_t k) const { return {*this, k}; }
+};
+template <class View>
+inline constexpr bool is_planes = false;
+template <class Element, int N>
+inline constexpr bool is_planes<Planes<Element, N>> = true;
+
+template <int N, class View>
+ZELM_INLINE auto planes(const View& view) {
+  if constexpr (!View::array) {
+    return view;
+  } else {
+    Planes<std::remove_pointer_t<decltype(view.object(0).at(0, 0))>, N> p;
+    ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) ZELM_AS_IT_STANDS for (int j = 0; j < N; ++j) p.first[i][j] =
+        view.object(0).at(i, j);
+    return p;
+  }
+}
+
 /// Element (i, j) of as many objects as there are lanes, for all j.
-template <bool beside, int N, class View>
+template <int N, class View>
 ZELM_INLINE void load_lanes(Pack<typename View::T> (&to)[N], const View& view, std::ptrdiff_t k, int i) {
   using P = Pack<typename View::T>;
   constexpr int L = P::lanes;
@@ -192,12 +223,13 @@ ZELM_INLINE void load_lanes(Pack<typename View::T> (&to)[N], const View& view, s
   } else {
     ZELM_UNROLL for (int j = 0; j < N; ++j) {
       const auto* const first = view.object(k).at(i, j);
-      to[j] = beside ? P::load(first) : P::template gather<L>([&](int l) { return moved(first, l * view.stride0); });
+      if constexpr (is_planes<View>) to[j] = P::load(first);
+      else to[j] = P::template gather<L>([&](int l) { return moved(first, l * view.stride0); });
     }
   }
 }
 
-template <bool beside, int N, class View>
+template <int N, class View>
 ZELM_INLINE void store_lanes(const Pack<typename View::T> (&from)[N], const View& view, std::ptrdiff_t k, int i) {
   constexpr int L = Pack<typename View::T>::lanes;
   if constexpr (View::Object::plain || requires { view.list; }) {
@@ -207,19 +239,19 @@ ZELM_INLINE void store_lanes(const Pack<typename View::T> (&from)[N], const View
   } else {
     ZELM_UNROLL for (int j = 0; j < N; ++j) {
       auto* const first = view.object(k).at(i, j);
-      if constexpr (beside) from[j].store(first);
+      if constexpr (is_planes<View>) from[j].store(first);
       else from[j].template scatter<L>([&](int l) { return moved(first, l * view.stride0); });
     }
   }
 }
 
 /// All elements of as many objects as there are lanes, or of a single one in every lane; of a transposed view as stored.
-template <bool beside, class P, int N, class View>
+template <class P, int N, class View>
 ZELM_INLINE void load_all(P (&to)[N][N], const View& view, std::ptrdiff_t k) {
   if constexpr (is_transposed<View>) {
-    load_all<beside>(to, view.stored, k);
+    load_all(to, view.stored, k);
   } else if constexpr (View::array) {
-    ZELM_UNROLL for (int i = 0; i < N; ++i) load_lanes<beside>(to[i], view, k, i);
+    ZELM_UNROLL for (int i = 0; i < N; ++i) load_lanes(to[i], view, k, i);
   } else {
     const auto object = view.object(0);
     ZELM_UNROLL for (int i = 0; i < N; ++i) {
@@ -228,22 +260,21 @@ ZELM_INLINE void load_all(P (&to)[N][N], const View& view, std::ptrdiff_t k) {
   }
 }
 
-/// The lanes are objects, which saves the shuffles of the broadcasts and fills all lanes. `beside`: all arrays are interleaved.
-/// Returns the number of objects done.
-template <int N, bool beside, class A, class B, class D>
+/// The lanes are objects, which saves the shuffles of the broadcasts and fills all lanes. Returns the number of objects done.
+template <int N, class A, class B, class D>
 __attribute__((noinline)) std::ptrdiff_t multiply_lanes(A a, B b, D d, std::ptrdiff_t count) {
   using P = Pack<typename D::T>;
   P left[N][N], right[N][N];
-  if constexpr (!A::array) load_all<beside>(left, a, 0);
-  if constexpr (!B::array) load_all<beside>(right, b, 0);
+  if constexpr (!A::array) load_all(left, a, 0);
+  if constexpr (!B::array) load_all(right, b, 0);
   std::ptrdiff_t k = 0;
   for (; k + P::lanes <= count; k += P::lanes) {
-    if constexpr (A::array && is_transposed<A>) load_all<beside>(left, a, k);
-    if constexpr (B::array) load_all<beside>(right, b, k);
+    if constexpr (A::array && is_transposed<A>) load_all(left, a, k);
+    if constexpr (B::array) load_all(right, b, k);
     ZELM_AS_IT_STANDS for (int i = 0; i < N; ++i) {
       P x[N], sum[N];
       if constexpr (A::array && !is_transposed<A>) {
-        load_lanes<beside>(x, a, k, i);
+        load_lanes(x, a, k, i);
       } else {
         ZELM_UNROLL for (int m = 0; m < N; ++m) x[m] = is_transposed<A> ? left[m][i] : left[i][m];
       }
@@ -252,7 +283,7 @@ __attribute__((noinline)) std::ptrdiff_t multiply_lanes(A a, B b, D d, std::ptrd
         sum[j] = term(0);
         ZELM_UNROLL for (int m = 1; m < N; ++m) sum[j] = sum[j] + term(m);
       }
-      store_lanes<beside>(sum, d, k, i);
+      store_lanes(sum, d, k, i);
     }
   }
   return k;
@@ -271,10 +302,10 @@ ZELM_INLINE void multiply_fixed(const A& a, const B& b, const D& d, int count) {
     if (count >= Pack<typename D::T>::lanes) {
       if constexpr (!D::Object::plain) {
         if (d.interleaved() && (!A::array || a.interleaved()) && (!B::array || b.interleaved()))
-          done = multiply_lanes<N, true>(a, b, d, count);
+          done = multiply_lanes<N>(planes<N>(a), planes<N>(b), planes<N>(d), count);
       }
       if constexpr (tables || wasteful) {
-        if (done == 0) done = multiply_lanes<N, false>(a, b, d, count);
+        if (done == 0) done = multiply_lanes<N>(a, b, d, count);
       }
     }
     if (done < count) multiply_each<N>(left, right, d, done, count);
