@@ -10,12 +10,6 @@
 
 namespace zelm::elementwise {
 
-struct Plus {
-  template <class V>
-  ZELM_INLINE V operator()(V a, V b) const {
-    return a + b;
-  }
-};
 struct Minus {
   template <class V>
   ZELM_INLINE V operator()(V a, V b) const {
@@ -27,12 +21,6 @@ struct SubtractedFrom {
   template <class V>
   ZELM_INLINE V operator()(V a, V b) const {
     return b - a;
-  }
-};
-struct Times {
-  template <class V>
-  ZELM_INLINE V operator()(V a, V b) const {
-    return a * b;
   }
 };
 template <class T>

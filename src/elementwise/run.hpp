@@ -19,7 +19,7 @@ struct Elements {
     else return Pack<T>::load(p + e);
   }
   ZELM_INLINE auto one(std::ptrdiff_t e) const { return load(p + e); }
-  ZELM_INLINE bool is_aligned() const { return reinterpret_cast<std::uintptr_t>(p) % 16 == 0; }
+  ZELM_INLINE bool is_aligned() const { return zelm::aligned(p); }
   ZELM_INLINE Elements<E, true> as_aligned() const { return {p}; }
   /// True if no element of a run of n is one of the n elements from d on.
   ZELM_INLINE bool apart(const T* d, std::ptrdiff_t n) const { return p + n <= d || d + n <= p; }

@@ -323,6 +323,15 @@ ZELM_INLINE ConstantsView<E, true> constant_list(E* const* pp, int shift) {
   return {pp, shift};
 }
 
+ZELM_INLINE bool aligned(const void* p) { return reinterpret_cast<std::uintptr_t>(p) % 16 == 0; }
+
+/// True if every object is known to begin at a multiple of 16 bytes: not of lists.
+template <class View>
+ZELM_INLINE bool aligned_objects(const View& view) {
+  if constexpr (requires { view.first; }) return aligned(view.first) && (!View::array || view.stride0 % 16 == 0);
+  else return false;
+}
+
 // Fixed sizes
 
 /// All R x C elements of an object in registers. A transposed object of floats with contiguous rows is transposed there; doubles

@@ -37,8 +37,7 @@ struct ResidentOrBatched : Resident {};
 
 template <int N, class A, class B, class C, class D>
 ZELM_INLINE bool batched(const A& a, const B& b, const C& c, const D& d, int count) {
-  const auto address = reinterpret_cast<std::uintptr_t>(b.first) | reinterpret_cast<std::uintptr_t>(d.first);
-  if ((address | std::uintptr_t(b.stride0 | d.stride0)) % 16 != 0) return false;
+  if (!aligned_objects(b) || !aligned_objects(d)) return false;
   if constexpr (std::is_same_v<C, None>) {
     if (N != 5 || count < 5) return false;
     p8_ownmMul_mva_32f_5x5(a.first, int(a.row_stride), b.first, int(b.stride0), d.first, int(d.stride0), count);
@@ -185,7 +184,7 @@ struct Sums {
       using T = typename D::T;
       if constexpr (B::plain && D::plain) {
         // Columns of 8 and 12 fill whole registers, all their rows are in blocks, and aligned vectors have no leading terms.
-        if (rows == length && (reinterpret_cast<std::uintptr_t>(b.first) | std::uintptr_t(b.stride0)) % 16 == 0) {
+        if (rows == length && aligned_objects(b)) {
           using Order = typename General::template InColumns<T>;
           if (rows == 8) return in_columns<Order, 8>(columns_of<turned>(a), b, c, d, count);
           if (rows == 12) return in_columns<Order, 12>(columns_of<turned>(a), b, c, d, count);

@@ -245,8 +245,6 @@ requires(!View::array) struct Factors<N, View> {
   ZELM_INLINE const auto& at(std::ptrdiff_t) const { return all; }
 };
 
-inline constexpr auto plus = [](auto a, auto b) ZELM_INLINE_LAMBDA { return a + b; };
-
 /// Rows of `columns` are columns of op(A).
 template <class Order, int N, class Columns, class B, class C, class D>
 __attribute__((noinline)) void in_columns(Columns columns, B b, C c, D d, int count) {
@@ -266,8 +264,8 @@ __attribute__((noinline)) void in_columns(Columns columns, B b, C c, D d, int co
       ZELM_UNROLL for (int q = 0; q < R::packs; ++q) z.pack[q] = decltype(order)::template sum<N>(
           q * Pack<typename D::T>::lanes, [&](int k) ZELM_INLINE_LAMBDA { return column[k].pack[q] * x.e[k]; });
     });
-    if constexpr (from_zero<Order>) z = lanewise(plus, z, R::splat(0));
-    if constexpr (!std::is_same_v<C, None>) z = lanewise(plus, z, addends.object(n).template row<N>(0));
+    if constexpr (from_zero<Order>) z = lanewise(Plus{}, z, R::splat(0));
+    if constexpr (!std::is_same_v<C, None>) z = lanewise(Plus{}, z, addends.object(n).template row<N>(0));
     d.object(n).set_row(0, z);
   }
 }
@@ -352,7 +350,7 @@ __attribute__((noinline)) void in_pairs(A a, B b, C c, D d, int count) {
     R z;
     ZELM_UNROLL for (int q = 0; q < R::packs; ++q) z.pack[q] =
         evens_and_odds(s[2 * q], s[2 * q + 1 < M::groups ? 2 * q + 1 : 2 * q]);
-    if constexpr (!std::is_same_v<C, None>) z = lanewise(plus, z, addends.object(n).template row<N>(0));
+    if constexpr (!std::is_same_v<C, None>) z = lanewise(Plus{}, z, addends.object(n).template row<N>(0));
     d.object(n).set_row(0, z);
   }
 }

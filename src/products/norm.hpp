@@ -70,13 +70,6 @@ ZELM_INLINE ZelStatus euclidean(View a, typename View::T* d, int width, int coun
 // The others: one accumulator with as many lanes as a register, for the whole matrix; a square alone goes into lane 0, eight at once
 // go into all of them.
 
-struct Plus {
-  template <class V>
-  ZELM_INLINE V operator()(V a, V b) const {
-    return a + b;
-  }
-};
-
 /// Sums of the squares of the columns.
 template <int N, class Object>
 ZELM_INLINE Row<typename Object::T, N> column_sums(const Object& a) {

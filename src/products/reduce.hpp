@@ -11,13 +11,6 @@
 
 namespace zelm::products {
 
-struct Times {
-  template <class V>
-  ZELM_INLINE V operator()(V a, V b) const {
-    return a * b;
-  }
-};
-
 /// p0 + p1 + p2 ...
 struct Ascending {
   template <class V, int N>
@@ -53,15 +46,6 @@ struct Sums {
     return One::of(p);
   }
 };
-
-ZELM_INLINE bool aligned(const void* p) { return reinterpret_cast<std::uintptr_t>(p) % 16 == 0; }
-
-/// True if every object is known to begin at a multiple of 16 bytes: not of lists.
-template <class View>
-ZELM_INLINE bool aligned_objects(const View& view) {
-  if constexpr (requires { view.first; }) return aligned(view.first) && (!View::array || view.stride0 % 16 == 0);
-  else return false;
-}
 
 /// Where the packed part of an object's sum begins.
 template <class Object>

@@ -42,6 +42,19 @@ struct Row {
   }
 };
 
+struct Plus {
+  template <class V>
+  ZELM_INLINE V operator()(V a, V b) const {
+    return a + b;
+  }
+};
+struct Times {
+  template <class V>
+  ZELM_INLINE V operator()(V a, V b) const {
+    return a * b;
+  }
+};
+
 template <class Op, class T, int N>
 ZELM_INLINE Row<T, N> lanewise(Op op, Row<T, N> a, Row<T, N> b) {
   ZELM_UNROLL for (int q = 0; q < Row<T, N>::packs; ++q) a.pack[q] = op(a.pack[q], b.pack[q]);

@@ -150,7 +150,7 @@ ZELM_INLINE ZelStatus small(const A& a, typename A::T* dst, int count) {
   } else if constexpr (precision == Precision::extended) {
     in_extended<N>(a, dst, 0, count);
   } else {
-    const bool slots = (std::uintptr_t(a.first) | std::uintptr_t(a.stride0) | std::uintptr_t(a.row_stride)) % 16 == 0;
+    const bool slots = aligned_objects(a) && a.row_stride % 16 == 0;
     const int pairs = slots ? count & ~1 : 0;
     in_element_type<N>(a, dst, pairs);
     in_extended<N>(a, dst, pairs, count);

@@ -267,10 +267,8 @@ ZELM_INLINE ZelStatus invert_small(const A& a, const D& d, int count) {
     return invert_one<N, How>(a.object(0), d.object(0));
   } else {
     if constexpr (How::pairs && N == 4) {
-      const auto aligned = [](const auto& view) {
-        return (std::uintptr_t(view.first) | std::uintptr_t(view.stride0)) % 16 == 0 && view.row_stride == 16;
-      };
-      if (aligned(a) && aligned(d)) {
+      const auto in_slots = [](const auto& view) { return aligned_objects(view) && view.row_stride == 16; };
+      if (in_slots(a) && in_slots(d)) {
         const int even = count & ~1;
         const ZelStatus status = p8_ownzelmInvert_m_32f_4x4_loop2(a.first, int(a.stride0), d.first, int(d.stride0), even);
         return status || even == count ? status : invert_one<N, How>(a.object(even), d.object(even));
