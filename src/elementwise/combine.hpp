@@ -70,7 +70,7 @@ bool combine_tight(Op op, const A& a, const B& b, const D& d, int rows, int colu
   }
 }
 
-/// Vectors without gaps and a constant for each: N registers hold the vectors of as many objects as a register has lanes. Of use
+/// Vectors and constants without gaps, one for each: N registers hold the vectors of as many objects as a register has lanes. Of use
 /// where some hold elements of two vectors, and of floats, where one shuffle of a register with four constants does for each.
 template <int N, class Op, class A, class B, class D>
 void combine_constants(Op op, A a, B b, D d, int count) {
@@ -83,9 +83,8 @@ void combine_constants(Op op, A a, B b, D d, int count) {
   }
   std::ptrdiff_t k = 0;
   for (const std::ptrdiff_t blocks = count & -L; k < blocks; k += L) {
-    const P values = b.lanes(k);
     P constants[N];
-    unroll<N>([&](auto q) { constants[q] = spread<N, q>(b, k, values); });
+    unroll<N>([&](auto q) { constants[q] = spread<N, q>(b.first + k); });
     ZELM_UNROLL for (int q = 0; q < N; ++q) {
       if constexpr (A::array) held[q] = P::load(a.first + k * N + q * L);
       op(held[q], constants[q]).store(d.first + k * N + q * L);
@@ -226,7 +225,8 @@ ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int 
     if (combine_tight(op, a, b, d, 1, width, count)) return;
     if (combine_interleaved(op, a, b, d, 1, width, count)) return;
     if constexpr (B::constant && B::array && D::plain && (A::plain || !A::array)) {
-      if ((sizeof(typename D::T) == 4 || width % 2 != 0) && d.tight(1, width) && (!A::array || a.tight(1, width))) {
+      const bool tight = d.tight(1, width) && (!A::array || a.tight(1, width)) && b.interleaved();
+      if (tight && (sizeof(typename D::T) == 4 || width % 2 != 0)) {
         switch (width) {
           case 3: return combine_constants<3>(op, a, b, d, count);
           case 4: return combine_constants<4>(op, a, b, d, count);

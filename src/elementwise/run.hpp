@@ -94,19 +94,18 @@ ZELM_INLINE Row<typename Object::T, N * N> run_of_columns(const Object& from) {
   return run_of_columns<N>(from, Row<typename Object::T, N * N>());
 }
 
-/// Of objects of N elements one after the other, from object k on, register q: the constant of each element's object.
-/// `values`: the constants of as many objects as a register has lanes.
-template <int N, int q, class Constants>
-ZELM_INLINE Pack<float> spread(const Constants&, std::ptrdiff_t, Pack<float> values) {
+/// Of objects of N elements one after the other, register q: the constant of each element's object. c: the first's.
+template <int N, int q>
+ZELM_INLINE Pack<float> spread(const float* c) {
   constexpr auto lane = [](int l) { return (4 * q + l) / N; };
-  return {shuffled<lane(0) | lane(1) << 2 | lane(2) << 4 | lane(3) << 6>(values.raw)};
+  return {shuffled<lane(0) | lane(1) << 2 | lane(2) << 4 | lane(3) << 6>(Pack<float>::load(c).raw)};
 }
 /// Doubles are loaded twice as fast as shuffled.
-template <int N, int q, class Constants>
-ZELM_INLINE Pack<double> spread(const Constants& c, std::ptrdiff_t k, Pack<double> values) {
+template <int N, int q>
+ZELM_INLINE Pack<double> spread(const double* c) {
   constexpr int object = 2 * q / N;
-  if constexpr ((2 * q + 1) / N > object) return values;
-  else return Pack<double>::splat(load(c.at(k + object)));
+  if constexpr ((2 * q + 1) / N > object) return Pack<double>::load(c + object);
+  else return Pack<double>::splat(load(c + object));
 }
 
 /// d may be a or b: each pack is read before it is written. Four registers in flight keep a long run busy; eight leave short

@@ -221,12 +221,6 @@ struct ConstantsView {
   }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return !list && stride0 == Bytes(sizeof(T)); }
-  /// Constants of as many objects as a register has lanes.
-  ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k) const {
-    constexpr int L = Pack<T>::lanes;
-    if (interleaved()) return Pack<T>::load(at(k));
-    return Pack<T>::template gather<L>([&](int l) { return at(k + l); });
-  }
 };
 
 template <class View>
