@@ -201,7 +201,7 @@ void copy_objects(const S& s, const D& d, int rows, int columns, std::ptrdiff_t 
 }
 
 template <int N, bool streamed = false, class S, class D>
-void transpose_fixed(const S& sources, const D& destinations, std::ptrdiff_t count) {
+__attribute__((noinline)) void transpose_fixed(const S& sources, const D& destinations, std::ptrdiff_t count) {
   S s = sources;
   D d = destinations;
   using T = typename D::T;
@@ -209,7 +209,8 @@ void transpose_fixed(const S& sources, const D& destinations, std::ptrdiff_t cou
   if constexpr (!streamed && N % Pack<T>::lanes == 0) {
     const bool apart = count > 1 && s.tight(N, N) && d.tight(N, N);
     if (apart && worth_streaming(d.object(0).base, count * N * N)) {
-      if (Elements{s.object(0).base}.apart(d.object(0).base, count * N * N)) return transpose_fixed<N, true>(s, d, count);
+      if (Elements{s.object(0).base}.apart(d.object(0).base, count * N * N))
+        return transpose_fixed<N, true>(sources, destinations, count);
     }
   }
   for (std::ptrdiff_t k = 0; k < count; ++k) {
