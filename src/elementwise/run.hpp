@@ -100,7 +100,7 @@ ZELM_INLINE Pack<float> spread(const float* c) {
   constexpr auto lane = [](int l) { return (4 * q + l) / N; };
   return {shuffled<lane(0) | lane(1) << 2 | lane(2) << 4 | lane(3) << 6>(Pack<float>::load(c).raw)};
 }
-/// Doubles are loaded twice as fast as shuffled.
+/// Doubles come by loads alone, which take no shuffle.
 template <int N, int q>
 ZELM_INLINE Pack<double> spread(const double* c) {
   constexpr int object = 2 * q / N;
