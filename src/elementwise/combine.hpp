@@ -51,15 +51,18 @@ bool combine_tight(Op op, const A& a, const B& b, const D& d, int rows, int colu
     run(op, Elements{a.first}, Same<T>{b.value}, d.first, size * count);
     return true;
   } else {
-    if (!Pattern<T>::fits(size) || count < Pattern<T>::L) return false;
+    // Long vectors of whole registers need no pattern, and making one takes a tenth of the time of 15 vectors of 100 doubles.
+    constexpr int L = Pattern<T>::L, kHeld = 25;  // packs: the longest pattern that has a loop of its own
+    if (rows == 1 && columns % L == 0 && columns > kHeld * L) return false;
+    if (!Pattern<T>::fits(size) || count < L) return false;
     if constexpr (A::array) run_repeated<Op, false>(op, a.first, Pattern<T>(b.object(0), rows, columns), d.first, size * count);
     else run_repeated<Op, true>(op, b.first, Pattern<T>(a.object(0), rows, columns), d.first, size * count);
     return true;
   }
 }
 
-/// Vectors without gaps and a constant for each: N registers hold the vectors of as many objects as a register has lanes, and
-/// each takes its constants from one register by a shuffle.
+/// Vectors and constants without gaps, one for each: N registers hold the vectors of as many objects as a register has lanes. Of use
+/// where some hold elements of two vectors, and of floats, where one shuffle of a register with four constants does for each.
 template <int N, class Op, class A, class B, class D>
 void combine_constants(Op op, A a, B b, D d, int count) {
   using P = Pack<typename D::T>;
@@ -70,12 +73,13 @@ void combine_constants(Op op, A a, B b, D d, int count) {
     ZELM_UNROLL for (int q = 0; q < N; ++q) held[q] = P::load(pattern.elements + q % pattern.packs * L);
   }
   std::ptrdiff_t k = 0;
-  for (; k + L <= count; k += L) {
-    const P values = b.lanes(k);
-    unroll<N>([&](auto q) {
+  for (const std::ptrdiff_t blocks = count & -L; k < blocks; k += L) {
+    P constants[N];
+    unroll<N>([&](auto q) { constants[q] = spread<N, q>(b.first + k); });
+    ZELM_UNROLL for (int q = 0; q < N; ++q) {
       if constexpr (A::array) held[q] = P::load(a.first + k * N + q * L);
-      op(held[q], spread<N, q>(values)).store(d.first + k * N + q * L);
-    });
+      op(held[q], constants[q]).store(d.first + k * N + q * L);
+    }
   }
   const auto last = zelm::held<1, N>(a);
   for (; k < count; ++k)
@@ -111,22 +115,35 @@ void combine_fixed(Op op, A a, B b, D d, int count) {
   }
 }
 
-/// An operand of 3 x 3 floats as one run of elements, where it is one or can be made one in registers.
-template <class View>
-ZELM_INLINE bool is_run_of_nine(const View& v) {
+/// An operand of N x N elements as one run, where it is one or can be made one in registers.
+template <int N, class View>
+ZELM_INLINE bool is_run(const View& v) {
   if constexpr (View::constant || View::Object::turned) return true;
-  else if constexpr (View::Object::plain) return v.row_stride == 3 * Bytes(sizeof(float));
+  else if constexpr (View::Object::plain) return v.row_stride == N * Bytes(sizeof(typename View::T));
   else return false;
 }
-template <class Object>
-ZELM_INLINE Row<float, 9> run_of_nine(const Object& object) {
-  if constexpr (Object::turned) return run_of_columns(object.stored);
-  else if constexpr (requires { object.value; }) return Row<float, 9>::splat(object.value);
-  else return Row<float, 9>::load(object.base);
+template <int N, class Object>
+ZELM_INLINE Row<typename Object::T, N * N> run_of(const Object& object) {
+  using Run = Row<typename Object::T, N * N>;
+  if constexpr (Object::turned) return run_of_columns<N>(object.stored);
+  else if constexpr (requires { object.value; }) return Run::splat(object.value);
+  else return Run::load(object.base);
 }
-template <class Op, class A, class B, class D>
-__attribute__((noinline)) void combine_runs_of_nine(Op op, A a, B b, D d, int count) {
-  for (int k = 0; k < count; ++k) lanewise(op, run_of_nine(a.object(k)), run_of_nine(b.object(k))).store(d.object(k).base);
+template <int N, class Op, class A, class B, class D>
+__attribute__((noinline)) void combine_runs(Op op, const A& first_a, const B& first_b, const D& first_d, int count) {
+  const A a = first_a;
+  const B b = first_b;
+  const D d = first_d;
+  for (int k = 0; k < count; ++k) {
+    // What is transposed comes first: the other operand can be loaded where it is used.
+    if constexpr (B::Object::turned) {
+      const auto y = run_of<N>(b.object(k));
+      lanewise(op, run_of<N>(a.object(k)), y).store(d.object(k).base);
+    } else {
+      const auto x = run_of<N>(a.object(k));
+      lanewise(op, x, run_of<N>(b.object(k))).store(d.object(k).base);
+    }
+  }
 }
 
 /// One row in ascending order, each element stored before the next is read.
@@ -135,14 +152,19 @@ void combine_in_order(Op op, const X& x, const Y& y, const Z& z, int i, int colu
   ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) store(z.at(i, j), op(x.element(i, j), y.element(i, j)));
 }
 
-/// Vectors have a loop of their own, whose addresses all stay in registers.
+/// Vectors have a loop of their own, whose addresses all stay in registers. Views are copied from memory word by word: as
+/// arguments by value they would be copied in pairs of words just written one by one, for which a processor waits.
 template <bool vectors, class Op, class A, class B, class D>
-__attribute__((noinline)) void combine_any(Op op, A a, B b, D d, int rows, int columns, int count) {
+__attribute__((noinline)) void combine_any(Op op, const A& first_a, const B& first_b, const D& first_d, int rows, int columns,
+                                           int count) {
+  A a = first_a;
+  B b = first_b;
+  D d = first_d;
   if (vectors) rows = 1;
-  for (int k = 0; k < count; ++k) {
-    const auto x = a.object(k);
-    const auto y = b.object(k);
-    const auto z = d.object(k);
+  for (int k = 0; k < count; ++k, a.next(), b.next(), d.next()) {
+    const auto x = a.object(0);
+    const auto y = b.object(0);
+    const auto z = d.object(0);
     for (int i = 0; i < rows; ++i) {
       if constexpr (x.plain && y.plain && z.plain) run_packs(op, along_row(x, i), along_row(y, i), z.at(i, 0), columns);
       else combine_in_order(op, x, y, z, i, columns);
@@ -173,9 +195,15 @@ ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int
   if (combine_tight(op, a, b, d, height, width, count)) return;
   if (combine_interleaved(op, a, b, d, height, width, count)) return;
   constexpr bool turned = (A::Object::turned || B::Object::turned) && (A::array || A::constant) && (B::array || B::constant);
-  if constexpr (turned && D::array && D::Object::plain && sizeof(typename D::T) == 4) {
-    if (width == 3 && height == 3 && is_run_of_nine(a) && is_run_of_nine(b) && is_run_of_nine(d))
-      return combine_runs_of_nine(op, a, b, d, count);
+  if constexpr (turned && D::array && D::Object::plain) {
+    const auto in_runs = [&](auto n) ZELM_INLINE_LAMBDA {
+      if constexpr (better_as_run<typename D::T, n>) {
+        if (width == n && height == n && is_run<n>(a) && is_run<n>(b) && is_run<n>(d))
+          return combine_runs<n>(op, a, b, d, count), true;
+      }
+      return false;
+    };
+    if (in_runs(std::integral_constant<int, 3>{}) || in_runs(std::integral_constant<int, 5>{})) return;
   }
   if (width != height || width < 3 || width > 6) combine_rest<false>(op, a, b, d, height, width, count);
   else if (width == 3) combine_fixed<3, 3>(op, a, b, d, count);
@@ -197,7 +225,8 @@ ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int 
     if (combine_tight(op, a, b, d, 1, width, count)) return;
     if (combine_interleaved(op, a, b, d, 1, width, count)) return;
     if constexpr (B::constant && B::array && D::plain && (A::plain || !A::array)) {
-      if (d.tight(1, width) && (!A::array || a.tight(1, width))) {
+      const bool tight = d.tight(1, width) && (!A::array || a.tight(1, width)) && b.interleaved();
+      if (tight && (sizeof(typename D::T) == 4 || width % 2 != 0)) {
         switch (width) {
           case 3: return combine_constants<3>(op, a, b, d, count);
           case 4: return combine_constants<4>(op, a, b, d, count);

@@ -39,10 +39,14 @@ ZELM_INLINE void fill_zero(T* d, int n) {
   ZELM_AS_IT_STANDS for (; e < n; ++e) store(d + e, T(0));
 }
 
-// Loops of their own, which need all registers: inlined into the choice between them they would share them.
+// Loops of their own, which need all registers: inlined into the choice between them they would share them. Views come as
+// references and are copied word by word: by value they would be copied in pairs of words, just written one by one, for which a
+// processor waits.
 
 template <int R, int C, class S, class D>
-__attribute__((noinline)) void copy_fixed(S s, D d, std::ptrdiff_t count) {
+__attribute__((noinline)) void copy_fixed(const S& sources, const D& destinations, std::ptrdiff_t count) {
+  S s = sources;
+  D d = destinations;
   for (std::ptrdiff_t k = 0; k < count; ++k) {
     const auto from = s.object(k);
     const auto to = d.object(k);
@@ -52,7 +56,7 @@ __attribute__((noinline)) void copy_fixed(S s, D d, std::ptrdiff_t count) {
 
 /// The small sizes; false for all others.
 template <class S, class D>
-ZELM_INLINE bool copy_small(S s, D d, int rows, int columns, std::ptrdiff_t count) {
+ZELM_INLINE bool copy_small(const S& s, const D& d, int rows, int columns, std::ptrdiff_t count) {
   if (rows != 1 && rows != columns) return false;
   switch (rows == 1 ? -columns : columns) {
     case -16: copy_fixed<1, 16>(s, d, count); break;
@@ -69,22 +73,57 @@ ZELM_INLINE bool copy_small(S s, D d, int rows, int columns, std::ptrdiff_t coun
   return true;
 }
 
-/// Calls body(j, number) for the columns four at a time, and with a constant number for the one to three that are left.
+/// Calls body(j, number) with constant numbers that together are `columns`: 2 L as often as possible, and never a 1 where it can
+/// be an L + 1, since one column costs as much as four.
 template <int L, class Body>
 ZELM_INLINE void for_tiles(int columns, Body body) {
   int j = 0;
-  ZELM_AS_IT_STANDS for (; j + L <= columns; j += L) body(j, std::integral_constant<int, L>{});
-  if (columns - j == 1) body(j, std::integral_constant<int, 1>{});
-  if constexpr (L > 2) {
-    if (columns - j == 2) body(j, std::integral_constant<int, 2>{});
-    if (columns - j == 3) body(j, std::integral_constant<int, 3>{});
-  }
+  const auto tile = [&](auto number) ZELM_INLINE_LAMBDA {
+    body(j, number);
+    j += number;
+  };
+  const auto left = [&](int number) { return columns - j == number; };
+  ZELM_AS_IT_STANDS while (columns - j >= 2 * L && !left(2 * L + 1)) tile(std::integral_constant<int, 2 * L>{});
+  if (columns - j >= L && !left(L + 1)) tile(std::integral_constant<int, L>{});
+  if (left(L + 1)) tile(std::integral_constant<int, L + 1>{});
+  unroll<L>([&](auto number) ZELM_INLINE_LAMBDA {
+    if constexpr (number > 0)
+      if (left(number)) tile(number);
+  });
 }
 
-/// Between objects whose rows are runs and objects that are interleaved: as many of them as a register has lanes, in tiles that
-/// are transposed in registers. `gather`: from rows to interleaved elements. Returns the number of objects done.
+/// N columns from element (i, j) on of objects [first, end), as many at once as a register has lanes. What is left of them goes
+/// together with some before it, again.
+template <bool gather, int N, class Rows, class Apart>
+ZELM_INLINE void copy_tile(Rows by_rows, Apart apart, int i, int j, std::ptrdiff_t first, std::ptrdiff_t end) {
+  using T = typename Rows::T;
+  constexpr int L = Pack<T>::lanes;
+  const Rows runs = by_rows.from(i, j);
+  decltype(apart.object(0).at(0, 0)) lanes[N];
+  ZELM_UNROLL for (int q = 0; q < N; ++q) lanes[q] = apart.object(0).at(i, j + q);
+  const auto block = [=](std::ptrdiff_t k) ZELM_INLINE_LAMBDA {
+    typename Rows::Object objects[L];
+    runs.objects(k, L, objects);
+    const auto run = [&](int l) { return objects[l].base; };
+    Pack<T> e[N];
+    if constexpr (gather) {
+      rows_to_lanes(e, run);
+      ZELM_UNROLL for (int q = 0; q < N; ++q) e[q].store(lanes[q] + k);
+    } else {
+      ZELM_UNROLL for (int q = 0; q < N; ++q) e[q] = Pack<T>::load(lanes[q] + k);
+      lanes_to_rows(e, run);
+    }
+  };
+  std::ptrdiff_t k = first;
+  for (; k + L <= end; k += L) block(k);
+  if (k < end) block(end - L);
+}
+
+/// Between objects whose rows are runs and objects that are interleaved, in tiles that are transposed in registers. A tile goes
+/// through as many objects as the first-level cache holds together, so that its addresses stay in registers, too. `gather`: from
+/// rows to interleaved elements. At least as many objects as a register has lanes.
 template <bool gather, class Rows, class Apart>
-std::ptrdiff_t copy_interleaved(Rows by_rows, Apart apart, int rows, int columns, std::ptrdiff_t count) {
+void copy_interleaved(const Rows& by_rows, const Apart& apart, int rows, int columns, std::ptrdiff_t count) {
   using T = typename Rows::T;
   constexpr int L = Pack<T>::lanes;
   if constexpr (requires { apart.table; }) {  // element e of the table is element e of an object without gaps, too
@@ -93,66 +132,58 @@ std::ptrdiff_t copy_interleaved(Rows by_rows, Apart apart, int rows, int columns
       rows = 1;
     }
   }
-  std::ptrdiff_t k = 0;
-  for (; k + L <= count; k += L) {
-    typename Rows::Object objects[L];
-    by_rows.objects(k, L, objects);
-    const auto first = apart.object(k);
+  constexpr std::ptrdiff_t kTogether = 16384 / sizeof(T);
+  const std::ptrdiff_t together = std::max<std::ptrdiff_t>(kTogether / (std::ptrdiff_t(rows) * columns) & -L, 4 * L);
+  for (std::ptrdiff_t k = 0; k < count; k += together)
     for (int i = 0; i < rows; ++i)
       for_tiles<L>(columns, [&](int j, auto number) ZELM_INLINE_LAMBDA {
-        Pack<T> e[number];
-        if constexpr (gather) {
-          rows_to_lanes(e, [&](int l) { return objects[l].at(i, j); });
-          ZELM_UNROLL for (int q = 0; q < number; ++q) e[q].store(first.at(i, j + q));
-        } else {
-          ZELM_UNROLL for (int q = 0; q < number; ++q) e[q] = Pack<T>::load(first.at(i, j + q));
-          lanes_to_rows(e, [&](int l) { return objects[l].at(i, j); });
-        }
+        copy_tile<gather, number>(by_rows, apart, i, j, k, std::min(k + together, count));
       });
-  }
-  return k;
 }
 
 /// Vectors have a loop of their own, whose addresses all stay in registers.
 template <bool vectors, class S, class D, class CopyRow>
-__attribute__((noinline)) void copy_rows(S s, D d, int rows, std::ptrdiff_t first, std::ptrdiff_t count, CopyRow copy_row) {
+__attribute__((noinline)) void copy_rows(const S& sources, const D& destinations, int rows, std::ptrdiff_t count,
+                                         CopyRow copy_row) {
+  S s = sources;
+  D d = destinations;
   if (vectors) rows = 1;
-  for (std::ptrdiff_t k = first; k < count; ++k) {
-    const auto from = s.object(k);
-    const auto to = d.object(k);
+  for (std::ptrdiff_t k = 0; k < count; ++k, s.next(), d.next()) {
+    const auto from = s.object(0);
+    const auto to = d.object(0);
     ZELM_AS_IT_STANDS for (int i = 0; i < rows; ++i) copy_row(from, to, i);
   }
 }
 
 template <class S, class D>
-void copy_any(S s, D d, int rows, int columns, std::ptrdiff_t first, std::ptrdiff_t count) {
+void copy_any(const S& s, const D& d, int rows, int columns, std::ptrdiff_t count) {
   using T = typename D::T;
   if constexpr (S::Object::plain && D::Object::plain) {
-    constexpr int kLong = 256 / sizeof(T);  // where the call costs less than it saves
+    constexpr int kLong = 512 / sizeof(T);  // where the call costs less than it saves
     if (columns > kLong) {
       const auto copy_row = [=](const auto& from, const auto& to, int i)
                                 ZELM_INLINE_LAMBDA { copy_run(from.at(i, 0), to.at(i, 0), columns); };
-      if (rows == 1) copy_rows<true>(s, d, rows, first, count, copy_row);
-      else copy_rows<false>(s, d, rows, first, count, copy_row);
+      if (rows == 1) copy_rows<true>(s, d, rows, count, copy_row);
+      else copy_rows<false>(s, d, rows, count, copy_row);
     } else {
       const auto copy_row = [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
         run_packs(First{}, Elements{from.at(i, 0)}, Same<T>{0}, to.at(i, 0), columns);
       };
-      if (rows == 1) copy_rows<true>(s, d, rows, first, count, copy_row);
-      else copy_rows<false>(s, d, rows, first, count, copy_row);
+      if (rows == 1) copy_rows<true>(s, d, rows, count, copy_row);
+      else copy_rows<false>(s, d, rows, count, copy_row);
     }
   } else {
-    copy_rows<false>(s, d, rows, first, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
+    copy_rows<false>(s, d, rows, count, [=](const auto& from, const auto& to, int i) ZELM_INLINE_LAMBDA {
       ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j) zelm::store(to.at(i, j), from.element(i, j));
     });
   }
 }
 
 template <class S, class D>
-void copy_objects(S s, D d, int rows, int columns, std::ptrdiff_t count) {
+void copy_objects(const S& s, const D& d, int rows, int columns, std::ptrdiff_t count) {
   constexpr bool from_rows = S::Object::plain, to_rows = D::Object::plain;
   const bool side_by_side = count > 1 && s.interleaved() && d.interleaved();
-  std::ptrdiff_t done = 0;
+  constexpr int L = Pack<typename D::T>::lanes;
   if (side_by_side) {
     for (int i = 0; i < rows; ++i)
       for (int j = 0; j < columns; ++j) copy_run(s.object(0).at(i, j), d.object(0).at(i, j), count);
@@ -162,21 +193,24 @@ void copy_objects(S s, D d, int rows, int columns, std::ptrdiff_t count) {
       return copy_run(s.object(0).base, d.object(0).base, count * rows * columns);
     if (copy_small(s, d, rows, columns, count)) return;
   } else if constexpr (from_rows) {
-    if (count > 1 && d.interleaved()) done = copy_interleaved<true>(s, d, rows, columns, count);
+    if (count >= L && d.interleaved()) return copy_interleaved<true>(s, d, rows, columns, count);
   } else if constexpr (to_rows) {
-    if (count > 1 && s.interleaved()) done = copy_interleaved<false>(d, s, rows, columns, count);
+    if (count >= L && s.interleaved()) return copy_interleaved<false>(d, s, rows, columns, count);
   }
-  copy_any(s, d, rows, columns, done, count);
+  copy_any(s, d, rows, columns, count);
 }
 
 template <int N, bool streamed = false, class S, class D>
-void transpose_fixed(S s, D d, std::ptrdiff_t count) {
+__attribute__((noinline)) void transpose_fixed(const S& sources, const D& destinations, std::ptrdiff_t count) {
+  S s = sources;
+  D d = destinations;
   using T = typename D::T;
   // Rows of whole registers can go past the caches, since they all begin at multiples of 16 bytes.
   if constexpr (!streamed && N % Pack<T>::lanes == 0) {
     const bool apart = count > 1 && s.tight(N, N) && d.tight(N, N);
     if (apart && worth_streaming(d.object(0).base, count * N * N)) {
-      if (Elements{s.object(0).base}.apart(d.object(0).base, count * N * N)) return transpose_fixed<N, true>(s, d, count);
+      if (Elements{s.object(0).base}.apart(d.object(0).base, count * N * N))
+        return transpose_fixed<N, true>(sources, destinations, count);
     }
   }
   for (std::ptrdiff_t k = 0; k < count; ++k) {
@@ -204,21 +238,26 @@ inline void transpose_packed(const float* s, float* d, std::ptrdiff_t count) {
   }
 }
 
-/// 3 x 3, rows anywhere, to nine elements without gaps.
-template <class S>
-void transpose_to_packed(S s, float* d, std::ptrdiff_t count) {
-  for (std::ptrdiff_t k = 0; k < count; ++k, d += 9) run_of_columns(s.object(k)).store(d);
+/// N x N, rows anywhere, to a run of elements without gaps.
+template <int N, class S, class T>
+__attribute__((noinline)) void transpose_to_packed(const S& sources, T* d, std::ptrdiff_t count) {
+  const S s = sources;
+  for (std::ptrdiff_t k = 0; k < count; ++k, d += N * N) run_of_columns<N>(s.object(k)).store(d);
 }
 
 /// Object of height x width to object of width x height.
 template <class S, class D>
-void transpose_objects(S s, D d, int width, int height, std::ptrdiff_t count) {
+void transpose_objects(const S& s, const D& d, int width, int height, std::ptrdiff_t count) {
   if constexpr (S::Object::plain && D::Object::plain) {
     if (width == height) {
       if constexpr (std::is_same_v<typename D::T, float>) {
         if (width == 3 && count > 1 && s.tight(3, 3) && d.tight(3, 3))
           return transpose_packed(s.object(0).base, d.object(0).base, count);
-        if (width == 3 && count > 1 && d.tight(3, 3)) return transpose_to_packed(s, d.object(0).base, count);
+      }
+      if (count > 1 && d.tight(width, width)) {
+        if (width == 3) return transpose_to_packed<3>(s, d.object(0).base, count);
+        if constexpr (better_as_run<typename D::T, 5>)
+          if (width == 5) return transpose_to_packed<5>(s, d.object(0).base, count);
       }
       switch (width) {
         case 3: return transpose_fixed<3>(s, d, count);
@@ -252,27 +291,32 @@ ZELM_INLINE StridedView<T, true, true> packed(T* p, int width, int height) {
 // The formulas, as entries and kernels call them
 
 template <class S, class D>
-ZelStatus copy(S s, D d, int width, int height, int count) {
-  with_adjacent(s, [&](auto from) { with_adjacent(d, [&](auto to) { copy_objects(from, to, height, width, count); }); });
+ZELM_INLINE ZelStatus copy(S s, D d, int width, int height, int count) {
+  with_adjacent(s, [&](const auto& from) ZELM_INLINE_LAMBDA {
+    with_adjacent(d, [&](const auto& to) ZELM_INLINE_LAMBDA { copy_objects(from, to, height, width, count); });
+  });
   return zelStsOk;
 }
 template <class S, class D>
-ZelStatus copy(S s, D d, int width, int count) {
+ZELM_INLINE ZelStatus copy(S s, D d, int width, int count) {
   return copy(s, d, width, 1, count);
 }
 
 template <class S>
-ZelStatus extract(S s, typename S::T* pDst, int width, int height, int count) {
-  with_adjacent(s, [&](auto from) { copy_objects(from, packed(pDst, width, height), height, width, count); });
+ZELM_INLINE ZelStatus extract(S s, typename S::T* pDst, int width, int height, int count) {
+  with_adjacent(
+      s, [&](const auto& from) ZELM_INLINE_LAMBDA { copy_objects(from, packed(pDst, width, height), height, width, count); });
   return zelStsOk;
 }
 template <class S>
-ZelStatus extract(TransposedView<S> s, typename S::T* pDst, int width, int height, int count) {
-  with_adjacent(s.stored, [&](auto from) { transpose_objects(from, packed(pDst, width, height), height, width, count); });
+ZELM_INLINE ZelStatus extract(TransposedView<S> s, typename S::T* pDst, int width, int height, int count) {
+  with_adjacent(s.stored, [&](const auto& from) ZELM_INLINE_LAMBDA {
+    transpose_objects(from, packed(pDst, width, height), height, width, count);
+  });
   return zelStsOk;
 }
 template <class S>
-ZelStatus extract(S s, typename S::T* pDst, int width, int count) {
+ZELM_INLINE ZelStatus extract(S s, typename S::T* pDst, int width, int count) {
   return extract(s, pDst, width, 1, count);
 }
 
@@ -345,7 +389,7 @@ ZelStatus load_identity(D d, int width, int height, int count) {
 /// Sizes are those of the source. On its way to the strips the contiguous float kernel of arrays asks for the cache size, with a
 /// result that nothing depends on: the strips suit every size.
 template <class S, class D>
-ZelStatus transpose(S s, int width, int height, D d, int count) {
+ZELM_INLINE ZelStatus transpose(S s, int width, int height, D d, int count) {
   if constexpr (S::array && S::Object::plain && D::Object::plain && std::is_same_v<typename S::T, float>) {
     const bool fixed = width == height && width >= 3 && width <= 6;
     if (!fixed && int(unsigned(width) * 8 * (unsigned(height) * unsigned(count))) > 131072) {

@@ -63,9 +63,13 @@ ZELM_INLINE auto along_row(const Object& object, int i) {
   else return Same<typename Object::T>{object.element(i, 0)};
 }
 
-/// The transpose of 3 x 3 floats as one run: three stores instead of the six of its rows, which is what loops wait for.
-template <class Object>
-ZELM_INLINE Row<float, 9> run_of_columns(const Object& from) {
+/// The transpose of N x N elements as one run: fewer stores than its rows take, which is what loops wait for. Of 3 x 3 floats
+/// three instead of six, of 3 x 3 and 5 x 5 doubles five instead of six and 13 instead of 15.
+template <class T, int N>
+inline constexpr bool better_as_run = N == 3 || (N == 5 && sizeof(T) == 8);
+
+template <int N, class Object>
+ZELM_INLINE Row<float, 9> run_of_columns(const Object& from, Row<float, 9>) {
   const auto two = [&](int i) { return Pack<float>::load_first<2>(from.at(i, 0)).raw; };
   const auto third = [&](int i) { return Pack<float>::load_first<1>(from.at(i, 2)); };
   const __m128 e00e01e10e11 = shuffle<0x44>(two(0), two(1)), e20e21 = two(2);
@@ -73,17 +77,35 @@ ZELM_INLINE Row<float, 9> run_of_columns(const Object& from) {
   const __m128 e02e12 = shuffle<0x00>(third(0).raw, third(1).raw);
   return {{{shuffle<0x88>(e00e01e10e11, e20e01)}, {shuffle<0x88>(e11e21, e02e12)}, third(2)}};
 }
-
-/// Of objects of N elements one after the other, register q: each element's object's lane of `values`.
-template <int N, int q>
-ZELM_INLINE Pack<float> spread(Pack<float> values) {
-  constexpr auto lane = [](int l) { return (4 * q + l) / N; };
-  return {shuffled<lane(0) | lane(1) << 2 | lane(2) << 4 | lane(3) << 6>(values.raw)};
+template <int N, class Object>
+ZELM_INLINE Row<double, N * N> run_of_columns(const Object& from, Row<double, N * N> run) {
+  Row<double, N> rows[N];
+  ZELM_UNROLL for (int i = 0; i < N; ++i) rows[i] = from.template row<N>(i);
+  const auto place = [&](int e) { return rows[e % N].pack[e / N / 2].raw; };  // with its neighbour below or above
+  unroll<N * N / 2>([&](auto q) ZELM_INLINE_LAMBDA {
+    constexpr int first = 2 * q, second = first + 1;
+    run.pack[q].raw = shuffle<(first / N % 2 | second / N % 2 << 1)>(place(first), place(second));
+  });
+  run.pack[N * N / 2].raw = place(N * N - 1);
+  return run;
 }
+template <int N, class Object>
+ZELM_INLINE Row<typename Object::T, N * N> run_of_columns(const Object& from) {
+  return run_of_columns<N>(from, Row<typename Object::T, N * N>());
+}
+
+/// Of objects of N elements one after the other, register q: the constant of each element's object. c: the first's.
 template <int N, int q>
-ZELM_INLINE Pack<double> spread(Pack<double> values) {
-  constexpr auto halves = [](int lane) { return lane == 0 ? 0x4 : 0xe; };
-  return {shuffled<halves(2 * q / N) | halves((2 * q + 1) / N) << 4>(values.raw)};
+ZELM_INLINE Pack<float> spread(const float* c) {
+  constexpr auto lane = [](int l) { return (4 * q + l) / N; };
+  return {shuffled<lane(0) | lane(1) << 2 | lane(2) << 4 | lane(3) << 6>(Pack<float>::load(c).raw)};
+}
+/// Doubles come by loads alone, which take no shuffle.
+template <int N, int q>
+ZELM_INLINE Pack<double> spread(const double* c) {
+  constexpr int object = 2 * q / N;
+  if constexpr ((2 * q + 1) / N > object) return Pack<double>::load(c + object);
+  else return Pack<double>::splat(load(c + object));
 }
 
 /// d may be a or b: each pack is read before it is written. Four registers in flight keep a long run busy; eight leave short

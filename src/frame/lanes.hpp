@@ -36,25 +36,30 @@ ZELM_INLINE void rows_to_lanes(Pack<double> (&e)[N], Address at) {
   ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = Pack<double>::gather<2>([&](int l) { return at(l) + j; });
 }
 
-/// The other way.
+/// The other way. Row by row, since neighbouring stores to one cache line are written as one.
 template <int N, class Address>
 ZELM_INLINE void lanes_to_rows(const Pack<float> (&e)[N], Address at) {
   using P = Pack<float>;
-  constexpr int full = N / 4 * 4, pairs = (N - full) / 2 * 2;
-  ZELM_UNROLL for (int j = 0; j < full; j += 4) {
-    P tile[4] = {e[j], e[j + 1], e[j + 2], e[j + 3]};
-    transpose(tile);
-    ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[l].store(at(l) + j);
+  constexpr int tiles = N / 4, full = 4 * tiles, pairs = (N - full) / 2 * 2;
+  P tile[tiles + 1][4], low, high;
+  ZELM_UNROLL for (int t = 0; t < tiles; ++t) {
+    ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[t][l] = e[4 * t + l];
+    transpose(tile[t]);
   }
   if constexpr (pairs > 0) {
-    const __m128 low = _mm_unpacklo_ps(e[full].raw, e[full + 1].raw), high = _mm_unpackhi_ps(e[full].raw, e[full + 1].raw);
-    const auto place = [&](int l) { return reinterpret_cast<__m64*>(at(l) + full); };
-    _mm_storel_pi(place(0), low);
-    _mm_storeh_pi(place(1), low);
-    _mm_storel_pi(place(2), high);
-    _mm_storeh_pi(place(3), high);
+    low.raw = _mm_unpacklo_ps(e[full].raw, e[full + 1].raw);
+    high.raw = _mm_unpackhi_ps(e[full].raw, e[full + 1].raw);
   }
-  if constexpr (full + pairs < N) e[N - 1].template scatter<4>([&](int l) { return at(l) + (N - 1); });
+  unroll<4>([&](auto l) ZELM_INLINE_LAMBDA {
+    float* const row = at(l);
+    ZELM_UNROLL for (int t = 0; t < tiles; ++t) tile[t][l].store(row + 4 * t);
+    if constexpr (pairs > 0) {
+      const __m128 two = l < 2 ? low.raw : high.raw;
+      const auto place = reinterpret_cast<__m64*>(row + full);
+      l % 2 == 0 ? _mm_storel_pi(place, two) : _mm_storeh_pi(place, two);
+    }
+    if constexpr (full + pairs < N) e[N - 1].template store_lane<l>(row + (N - 1));
+  });
 }
 
 template <int N, class Address>

@@ -124,6 +124,12 @@ struct StridedView {
     else return k * stride0;
   }
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {moved(first, offset(k)), row_stride, element_stride}; }
+  /// On to the next object of an array: where addresses formed from k would be multiplied in every turn of a loop.
+  ZELM_INLINE void next() { first = moved(first, offset(1)); }
+  /// The same objects from element (i, j) on.
+  ZELM_INLINE StridedView from(int i, int j) const {
+    return {moved(first, i * row_stride + j * element_stride), stride0, row_stride, element_stride};
+  }
   /// Objects k, ..., k + valid - 1 and, in the places behind, the last of them. The address of the first is hidden from the
   /// compiler, which would else carry the address of every row of every object along in the loop over k.
   template <int L>
@@ -163,6 +169,10 @@ struct ListView {
   Bytes shift, row_stride, element_stride;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {moved(list[k], shift), row_stride, element_stride}; }
+  ZELM_INLINE void next() { ++list; }
+  ZELM_INLINE ListView from(int i, int j) const {
+    return {list, shift + i * row_stride + j * element_stride, row_stride, element_stride};
+  }
   ZELM_INLINE ListView<Element, true> as_adjacent() const { return {list, shift, row_stride, sizeof(T)}; }
   template <int L>
   ZELM_INLINE void objects(std::ptrdiff_t k, int valid, Object (&to)[L]) const {
@@ -182,6 +192,7 @@ struct TableView {
   int columns;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {table, array ? shift + k * stride0 : shift, columns}; }
+  ZELM_INLINE void next() { shift += array ? stride0 : 0; }
   template <int L>
   ZELM_INLINE void objects(std::ptrdiff_t k, int valid, Object (&to)[L]) const {
     ZELM_UNROLL for (int l = 0; l < L; ++l) to[l] = object(k + (l < valid ? l : valid - 1));
@@ -199,6 +210,7 @@ struct ConstantView {
   V value;
 
   ZELM_INLINE Object object(std::ptrdiff_t) const { return {value}; }
+  ZELM_INLINE void next() {}
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return false; }
 };
@@ -217,14 +229,12 @@ struct ConstantsView {
     else return moved(first, k * stride0);
   }
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {load(at(k))}; }
+  ZELM_INLINE void next() {
+    if constexpr (list) ++first;
+    else first = moved(first, stride0);
+  }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return !list && stride0 == Bytes(sizeof(T)); }
-  /// Constants of as many objects as a register has lanes.
-  ZELM_INLINE Pack<T> lanes(std::ptrdiff_t k) const {
-    constexpr int L = Pack<T>::lanes;
-    if (interleaved()) return Pack<T>::load(at(k));
-    return Pack<T>::template gather<L>([&](int l) { return at(k + l); });
-  }
 };
 
 template <class View>
@@ -235,6 +245,7 @@ struct TransposedView {
   View stored;
 
   ZELM_INLINE Object object(std::ptrdiff_t k) const { return {stored.object(k)}; }
+  ZELM_INLINE void next() { stored.next(); }
   ZELM_INLINE bool tight(int, int) const { return false; }
   ZELM_INLINE bool interleaved() const { return stored.interleaved(); }
 };

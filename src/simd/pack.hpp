@@ -111,12 +111,14 @@ struct Pack<float> {
     else if constexpr (n == 3) return {_mm_insert_ps(gather<2>(at).raw, _mm_load_ss(at(2)), 0x20)};
     else return {shuffle<0x88>(shuffle<0>(first, _mm_load_ss(at(1))), shuffle<0>(_mm_load_ss(at(2)), _mm_load_ss(at(3))))};
   }
+  template <int lane>
+  ZELM_INLINE void store_lane(float* p) const {
+    if constexpr (lane == 0) _mm_store_ss(p, raw);
+    else zelm::store(reinterpret_cast<int*>(p), _mm_extract_ps(raw, lane));
+  }
   template <int n, class Address>
   ZELM_INLINE void scatter(Address at) const {
-    _mm_store_ss(at(0), raw);
-    if constexpr (n > 1) zelm::store(reinterpret_cast<int*>(at(1)), _mm_extract_ps(raw, 1));
-    if constexpr (n > 2) zelm::store(reinterpret_cast<int*>(at(2)), _mm_extract_ps(raw, 2));
-    if constexpr (n > 3) zelm::store(reinterpret_cast<int*>(at(3)), _mm_extract_ps(raw, 3));
+    unroll<n>([&](auto l) ZELM_INLINE_LAMBDA { store_lane<l>(at(l)); });
   }
 
   friend ZELM_INLINE Pack operator+(Pack a, Pack b) { return {_mm_add_ps(a.raw, b.raw)}; }

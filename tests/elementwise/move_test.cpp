@@ -76,6 +76,32 @@ TEST(Move, CopyKeepsTheOrderOfObjects) {
   for (std::size_t e = 0; e < count * width; ++e) EXPECT_EQ(down[e], float(e + width));
 }
 
+/// Arrays of structures to structures of arrays and back, of more objects than go together and some.
+template <class T, class To, class From>
+void change_layout(To to_elements, From from_elements) {
+  constexpr int E = sizeof(T), count = 1003, gap = 5;
+  for (const int n : {1, 3, 5, 6}) {
+    const std::size_t size = std::size_t(n * n);
+    std::vector<T> objects(size * count), planes(size * (count + gap), T(-1)), back(objects.size());
+    std::vector<T> want = planes;
+    std::vector<T*> table;
+    for (std::size_t e = 0; e < objects.size(); ++e) {
+      objects[e] = T(e);
+      want[e % size * (count + gap) + e / size] = T(e);
+    }
+    for (std::size_t e = 0; e < size; ++e) table.push_back(&planes[e * (count + gap)]);
+    const int row = n * E, object = n * row;
+    EXPECT_EQ(to_elements(objects.data(), object, row, E, table.data(), 0, E, n, n, count), zelStsOk);
+    EXPECT_EQ(planes, want) << n;
+    EXPECT_EQ(from_elements(table.data(), 0, E, back.data(), object, row, E, n, n, count), zelStsOk);
+    EXPECT_EQ(back, objects) << n;
+  }
+}
+TEST(Move, LayoutsOfManyObjects) {
+  change_layout<float>(zelmCopy_ma_32f_SP, zelmCopy_ma_32f_PS);
+  change_layout<double>(zelmCopy_ma_64f_SP, zelmCopy_ma_64f_PS);
+}
+
 /// The strip kernels by their names; dst begins at every place in a register.
 TEST(Move, Strips) {
   constexpr int widths[] = {1, 2, 3, 4, 5, 7, 8, 13, 32}, gap = 3;
