@@ -268,10 +268,31 @@ ZELM_INLINE ZelStatus combine(A a, B b, D d, int width, int count) {
   return zelStsOk;
 }
 
+/// A single vector times the constant of its call, formed once for all objects: as long as a pattern may be.
+template <class T>
+struct ScaledVector {
+  alignas(16) T elements[Pattern<T>::capacity];
+
+  template <class Object>
+  ScaledVector(const Object& v, T val, int width) {
+    if constexpr (Object::plain) run_packs(Times{}, along_row(v, 0), Same<T>{val}, elements, width);
+    else ZELM_AS_IT_STANDS for (int j = 0; j < width; ++j) elements[j] = v.element(0, j) * val;
+  }
+  StridedView<const T, true, false> view() const { return vector(elements); }
+};
+
 /// d = a * val + b
 template <class A, class B, class D>
 ZELM_INLINE ZelStatus combine_scaled(A a, typename D::T val, B b, D d, int width, int count) {
-  combine_vectors(ScaledPlus<typename D::T>{val}, a, b, d, width, count);
+  using T = typename D::T;
+  if constexpr (!A::array && B::array) {
+    if (width <= Pattern<T>::capacity) {
+      const ScaledVector<T> scaled(a.object(0), val, width);
+      combine_vectors(Plus{}, scaled.view(), b, d, width, count);
+      return zelStsOk;
+    }
+  }
+  combine_vectors(ScaledPlus<T>{val}, a, b, d, width, count);
   return zelStsOk;
 }
 
