@@ -31,17 +31,16 @@ struct Columns {
   ZELM_INLINE void put(int i, int j, const S& x) const { store(at(i, j), x); }
 };
 
-/// sqrt(a^2 + b^2) without a large square; never tiny. The root and its product are taken in double and rounded once.
+/// sqrt(a^2 + b^2) without a large square. The root and its product are taken in double and rounded once.
 template <class S>
 ZELM_INLINE S length(const S& a, const S& b) {
   using T = ElementOf<S>;
   using Wide = typename Wider<S>::Type;
-  const S safe = Limits<T>::safe, w = larger(magnitude(a), magnitude(b)), z = smaller(magnitude(a), magnitude(b));
-  const S norm = select(exceeds(safe, z), w, S(Wide(w) * root(Wide(z * z / (w * w) + S(T(1))))));
-  return select(exceeds(safe, norm), S(Limits<T>::safe2), norm);
+  const S w = larger(magnitude(b), magnitude(a)), z = smaller(magnitude(b), magnitude(a));
+  return select(exceeds(S(Limits<T>::safe), z), w, S(Wide(w) * root(Wide(z * z / (w * w) + S(T(1))))));
 }
 
-/// I - tau v v^T with v = (1, scale x) turns (alpha, x) into (beta, 0), xnorm being the length of x.
+/// I - tau v v^T with v = (1, scale x) turns (alpha, x) into (beta, 0), xnorm being the length of x, which is not tiny.
 template <class S>
 struct Reflector {
   S beta, tau, scale;
@@ -50,7 +49,7 @@ struct Reflector {
     const S norm = length(alpha, xnorm), zero = T(0);
     beta = select(exceeds(zero, alpha), norm, zero - norm);
     tau = (beta - alpha) / beta;
-    scale = S(T(1)) / (zero - (beta - alpha));
+    scale = S(T(1)) / (alpha - beta);
   }
 };
 
@@ -387,20 +386,27 @@ struct Iteration {
   __attribute__((noinline)) void turn(const Reflection& r, int column, int columns, int row, int rows, int vector_rows) const {
     const S tau = r.tau, v2 = r.v2, v3 = r.v3, t2 = tau * v2, t3 = tau * v3;
     const M still = r.still, stays = size == Rows::mixed ? r.short_or_still : still;
-    const auto turn = [&](S* x, S* y, S* z) ZELM_INLINE_LAMBDA {
-      S sum = load(x) + v2 * load(y);
-      // -0 changes nothing, be it added to a zero of either sign.
-      if constexpr (size == Rows::mixed) sum = sum + select(stays, S(T(-0.0)), v3 * load(z));
-      if constexpr (size == Rows::three) sum = sum + v3 * load(z);
-      store(x, load(x) - unless(still, sum * tau));
-      store(y, load(y) - unless(still, sum * t2));
-      if constexpr (size != Rows::two) store(z, load(z) - unless(stays, sum * t3));
+    const std::ptrdiff_t length = n;
+    const auto turn = [&](S* x, std::ptrdiff_t across) ZELM_INLINE_LAMBDA {
+      S *const y = x + across, *const z = y + across;
+      const S a = load(x), b = load(y);
+      S sum = a + v2 * b;
+      if constexpr (size == Rows::two) {
+        store(x, a - unless(still, sum * tau));
+        store(y, b - unless(still, sum * t2));
+      } else {
+        const S c = load(z);
+        // -0 changes nothing, be it added to a zero of either sign.
+        sum = sum + (size == Rows::mixed ? select(stays, S(T(-0.0)), v3 * c) : v3 * c);
+        store(x, a - unless(still, sum * tau));
+        store(y, b - unless(still, sum * t2));
+        store(z, c - unless(stays, sum * t3));
+      }
     };
-    const int k = r.k;
-    for (int j = column; j < columns; ++j) turn(h.at(k, j), h.at(k + 1, j), h.at(k, j) + 2);
-    for (int i = row; i < rows; ++i) turn(h.at(i, k), h.at(i, k + 1), h.at(i, k) + 2 * n);
+    for (S *x = h.at(r.k, column), *const end = h.at(r.k, columns); x < end; x += length) turn(x, 1);
+    for (S *x = h.at(row, r.k), *const end = h.at(rows, r.k); x < end; ++x) turn(x, length);
     if constexpr (vectors)
-      for (int i = 0; i < vector_rows; ++i) turn(q.at(i, k), q.at(i, k + 1), q.at(i, k) + 2 * n);
+      for (S *x = q.at(0, r.k), *const end = q.at(vector_rows, r.k); x < end; ++x) turn(x, length);
   }
 };
 

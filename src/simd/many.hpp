@@ -192,13 +192,22 @@ ZELM_INLINE Many<T, L> but_not(const Many<T, L>& a, const Many<T, L>& b) {
 
 #undef ZELM_PACKS
 
-template <class S>
-ZELM_INLINE S larger(const S& a, const S& b) {
-  return select(exceeds(b, a), b, a);
+/// The second where one is no number.
+template <Number T>
+ZELM_INLINE T larger(T a, T b) {
+  return a > b ? a : b;
 }
-template <class S>
-ZELM_INLINE S smaller(const S& a, const S& b) {
-  return select(exceeds(a, b), b, a);
+template <Number T>
+ZELM_INLINE T smaller(T a, T b) {
+  return a < b ? a : b;
+}
+template <class T, int L>
+ZELM_INLINE Many<T, L> larger(const Many<T, L>& a, const Many<T, L>& b) {
+  return Many<T, L>::each([&](int q) { return max_or_second(a.part[q], b.part[q]); });
+}
+template <class T, int L>
+ZELM_INLINE Many<T, L> smaller(const Many<T, L>& a, const Many<T, L>& b) {
+  return Many<T, L>::each([&](int q) { return min_or_second(a.part[q], b.part[q]); });
 }
 
 /// The same in double, and the mask of a comparison there.

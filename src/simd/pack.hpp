@@ -192,6 +192,7 @@ struct Pack<double> {
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_pd(no.raw, yes.raw, mask.raw)}; }
   friend ZELM_INLINE Pack abs(Pack a) { return and_not(a, splat(-0.0)); }
   friend ZELM_INLINE Pack max_or_second(Pack a, Pack b) { return {_mm_max_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack min_or_second(Pack a, Pack b) { return {_mm_min_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE int lane_bits(Pack mask) { return _mm_movemask_pd(mask.raw); }
   friend ZELM_INLINE __m128i to_int32(Pack a) { return _mm_cvttpd_epi32(a.raw); }
 };
