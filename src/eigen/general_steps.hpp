@@ -232,7 +232,7 @@ struct Iteration {
     int k;
     S tau, v2, v3;
     M still, short_or_still;  // lanes that it leaves alone, and those of which it turns two rows or none
-    bool idle, mixed;
+    bool idle, mixed, every;
   };
 
   ZELM_INLINE T get(int l, int i, int j) const { return load_lane(h.at(i, j), l); }
@@ -357,7 +357,7 @@ struct Iteration {
         if (any(above)) h.put(k, k - 1, select(above, h.get(k, k - 1) * (one - tau), h.get(k, k - 1)));
       }
       return Reflection{k, tau, v2 * r.scale, v3 * r.scale, still, either(still, ending), all(still),
-                        any(both(moving, ending))};
+                        any(both(moving, ending)), !any(still)};
     };
     // Each reflection is made of what the one before leaves in one column: that comes first, so that divisions and roots go on
     // beside the rest. Below row k + 3 the columns are still zero.
@@ -373,11 +373,12 @@ struct Iteration {
     if (!r.idle) turn<Rows::two>(r, r.k, columns, first_row, extent.bottom + 1, n);
   }
 
-  enum class Rows { two, three, mixed };
+  enum class Rows { two, three, mixed, every };
 
   ZELM_INLINE void turn_three(const Reflection& r, int column, int columns, int row, int rows, int vector_rows) const {
     if (r.idle) return;
     if (r.mixed) turn<Rows::mixed>(r, column, columns, row, rows, vector_rows);
+    else if (r.every) turn<Rows::every>(r, column, columns, row, rows, vector_rows);
     else turn<Rows::three>(r, column, columns, row, rows, vector_rows);
   }
 
@@ -385,7 +386,7 @@ struct Iteration {
   template <Rows size>
   __attribute__((noinline)) void turn(const Reflection& r, int column, int columns, int row, int rows, int vector_rows) const {
     const S tau = r.tau, v2 = r.v2, v3 = r.v3, t2 = tau * v2, t3 = tau * v3;
-    const M still = r.still, stays = size == Rows::mixed ? r.short_or_still : still;
+    const M still = size == Rows::every ? everywhere<S>(false) : r.still, stays = size == Rows::mixed ? r.short_or_still : still;
     const std::ptrdiff_t length = n;
     const auto turn = [&](S* x, std::ptrdiff_t across) ZELM_INLINE_LAMBDA {
       S *const y = x + across, *const z = y + across;
