@@ -152,8 +152,13 @@ struct Pack<double> {
   static ZELM_INLINE Pack zero() { return {_mm_setzero_pd()}; }
   static ZELM_INLINE Pack splat(double x) { return {_mm_set1_pd(x)}; }
   static ZELM_INLINE Pack load(const double* p) { return {_mm_loadu_pd(p)}; }
+  static ZELM_INLINE Pack load(const float* p) { return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadu_si64(p)))}; }
   static ZELM_INLINE Pack load_aligned(const double* p) { return {_mm_load_pd(p)}; }
   ZELM_INLINE void store(double* p) const { _mm_storeu_pd(p, raw); }
+  ZELM_INLINE void store(float* p) const { _mm_storeu_si64(p, _mm_castps_si128(_mm_cvtpd_ps(raw))); }
+  /// What a store and a load would leave.
+  ZELM_INLINE Pack as(const double*) const { return *this; }
+  ZELM_INLINE Pack as(const float*) const { return {_mm_cvtps_pd(_mm_cvtpd_ps(raw))}; }
   ZELM_INLINE double first() const { return _mm_cvtsd_f64(raw); }
   ZELM_INLINE void stream(double* p) const { _mm_stream_pd(p, raw); }
 
