@@ -334,7 +334,8 @@ struct Iteration {
     const auto reflection = [&](int k) ZELM_INLINE_LAMBDA {
       const S here = T(k);
       const bool three = k < extent.bottom - 1;
-      const M moving = both(reaches(here, starts), exceeds(extent.bottoms, here)), starting = both(moving, equals(starts, here));
+      const M moving = both(reaches(here, starts), exceeds(extent.bottoms, here)),
+              starting = both(moving, equals(starts, here));
       const M ending = is(extent.bottoms, k + 1);  // of two rows
       S v1 = q1, v2 = q2, v3 = three ? q3 : zero;
       if (k > m) {
@@ -356,8 +357,8 @@ struct Iteration {
         const M above = but_not(starting, is(extent.tops, k));
         if (any(above)) h.put(k, k - 1, select(above, h.get(k, k - 1) * (one - tau), h.get(k, k - 1)));
       }
-      return Reflection{k, tau, v2 * r.scale, v3 * r.scale, still, either(still, ending), all(still),
-                        any(both(moving, ending)), !any(still)};
+      return Reflection{
+          k, tau, v2 * r.scale, v3 * r.scale, still, either(still, ending), all(still), any(both(moving, ending)), !any(still)};
     };
     // Each reflection is made of what the one before leaves in one column: that comes first, so that divisions and roots go on
     // beside the rest. Below row k + 3 the columns are still zero.
@@ -386,7 +387,8 @@ struct Iteration {
   template <Rows size>
   __attribute__((noinline)) void turn(const Reflection& r, int column, int columns, int row, int rows, int vector_rows) const {
     const S tau = r.tau, v2 = r.v2, v3 = r.v3, t2 = tau * v2, t3 = tau * v3;
-    const M still = size == Rows::every ? everywhere<S>(false) : r.still, stays = size == Rows::mixed ? r.short_or_still : still;
+    const M still = size == Rows::every ? everywhere<S>(false) : r.still,
+            stays = size == Rows::mixed ? r.short_or_still : still;
     const std::ptrdiff_t length = n;
     const auto turn = [&](S* x, std::ptrdiff_t across) ZELM_INLINE_LAMBDA {
       S *const y = x + across, *const z = y + across;

@@ -177,9 +177,7 @@ struct Single {
 /// Elements i, ..., of as many as S holds, of x = Q y. `end`: elements of y that are in use; the last of them comes first.
 template <class S, Side side, class T>
 ZELM_INLINE void product(const Triangle<side, T>& t, Columns<T> q, const T* y, int end, T* x, int i) {
-  const auto term = [&](int k) ZELM_INLINE_LAMBDA {
-    return S::splat(load(y + k)) * S::load(q.at(i, t.place(k)));
-  };
+  const auto term = [&](int k) ZELM_INLINE_LAMBDA { return S::splat(load(y + k)) * S::load(q.at(i, t.place(k))); };
   S sum = term(end - 1);
   ZELM_AS_IT_STANDS for (int k = 0; k < end - 1; ++k) sum = sum + term(k);
   sum.store(x + i);

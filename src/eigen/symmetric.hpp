@@ -85,7 +85,7 @@ ZelStatus vectors_of(const Source& source, T* buffer, const Object& z, T* values
 template <int order, class A, class T, class D>
 __attribute__((noinline)) int solve_blocks(A a, D dst, T* values, int n, int count, const Rules& rules) {
   constexpr bool vectors = !std::is_same_v<D, NoVectors>;
-  constexpr int L = kTogether<T>;
+  constexpr int L = kTogether;
   if constexpr (order > 0) n = order;
   Block<T, order, vectors> block;
   int k = 0;

@@ -37,39 +37,45 @@ ZELM_INLINE void rotate(const Z& z, int n, int i, int j, V c, V s) {
   }
 }
 
+/// Turns 2 * packs elements of columns, `height` elements each, by rotations first, ..., last - 1 of lane l.
+template <int packs, class V, class T>
+__attribute__((noinline)) void turn(const V* c, const V* s, int l, int first, int last, T* columns, int height) {
+  using P = Pack<double>;
+  T* at = columns + first * height;
+  P zi[packs];
+  ZELM_UNROLL for (int q = 0; q < packs; ++q) zi[q] = P::load(at + 2 * q);
+  ZELM_AS_IT_STANDS for (int i = first; i < last; ++i, at += height) {
+    const P ci = P::splat(load_lane(c + i, l)), si = P::splat(load_lane(s + i, l));
+    ZELM_UNROLL for (int q = 0; q < packs; ++q) {
+      const P zj = P::load(at + height + 2 * q);
+      (ci * zi[q] + si * zj).store(at + 2 * q);
+      zi[q] = (ci * zj - si * zi[q]).as(columns);
+    }
+  }
+  ZELM_UNROLL for (int q = 0; q < packs; ++q) zi[q].store(at + 2 * q);
+}
+
 /// The rotations of one sweep, in lanes.
 template <class V, int largest>
 struct Rotations {
   V c[largest], s[largest];
   int where[largest];  // bit l: of lane l
 
-  /// Turns the columns of lane l, each `height` elements, by rotations first, ..., last - 1; of these it has some in succession.
+  /// Turns the columns of lane l by those of rotations first, ..., last - 1 that it has: some in succession.
   template <class T>
   ZELM_INLINE void apply(int l, int first, int last, T* columns, int height) const {
     while (first < last && !(where[first] >> l & 1)) ++first;
     while (first < last && !(where[last - 1] >> l & 1)) --last;
     if (first == last) return;
+    // As many at once as there are registers for: from one column to the next it takes 18 cycles, of float.
     int k = 0;
-    for (; k + 2 * P::lanes <= height; k += 2 * P::lanes) apply<2>(l, first, last, columns + k, height);
-    if (k < height) apply<1>(l, first, last, columns + k, height);
-  }
-
- private:
-  using P = Pack<ElementOf<V>>;
-  template <int packs, class T>
-  ZELM_INLINE void apply(int l, int first, int last, T* columns, int height) const {
-    T* at = columns + first * height;
-    P zi[packs];
-    ZELM_UNROLL for (int q = 0; q < packs; ++q) zi[q] = P::load(at + q * P::lanes);
-    ZELM_AS_IT_STANDS for (int i = first; i < last; ++i, at += height) {
-      const P ci = P::splat(load_lane(c + i, l)), si = P::splat(load_lane(s + i, l));
-      ZELM_UNROLL for (int q = 0; q < packs; ++q) {
-        const P zj = P::load(at + height + q * P::lanes);
-        (ci * zi[q] + si * zj).store(at + q * P::lanes);
-        zi[q] = (ci * zj - si * zi[q]).as(columns);
-      }
+    for (; k + 10 <= height; k += 10) turn<5>(c, s, l, first, last, columns + k, height);
+    switch ((height - k) / 2) {
+      case 1: return turn<1>(c, s, l, first, last, columns + k, height);
+      case 2: return turn<2>(c, s, l, first, last, columns + k, height);
+      case 3: return turn<3>(c, s, l, first, last, columns + k, height);
+      case 4: return turn<4>(c, s, l, first, last, columns + k, height);
     }
-    ZELM_UNROLL for (int q = 0; q < packs; ++q) zi[q].store(at + q * P::lanes);
   }
 };
 
@@ -218,7 +224,7 @@ ZelStatus vectors_of_one(T* buffer, Object z, T* values, int n, const Rules& rul
 template <class T, int order, bool vectors>
 bool solve_together(Block<T, order, vectors>& block, int n, const Rules& rules) {
   // Of many matrices the vectors always come from sweeps in double.
-  using V = Many<std::conditional_t<vectors, double, T>, kTogether<T>>;
+  using V = Many<std::conditional_t<vectors, double, T>, kTogether>;
   return solve_here<V>(block, order ? order : n, rules);
 }
 

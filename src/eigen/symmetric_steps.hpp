@@ -38,6 +38,22 @@ struct Square {
   ZELM_INLINE void put(int i, int j, const S& x) const { store(first + std::ptrdiff_t(i) * order + j, x); }
 };
 
+/// Where the block that is being worked on begins, in each lane.
+template <class S, int order>
+struct Starts {
+  S begin[order];
+  ZELM_INLINE void note(int i, const S& here) { begin[i] = here; }
+  ZELM_INLINE S at(int i) const { return begin[i]; }
+};
+template <Number S, int order>
+struct Starts<S, order> {
+  int begin;
+  ZELM_INLINE void note(int i, bool here) {
+    if (here) begin = i;
+  }
+  ZELM_INLINE bool at(int i) const { return i == begin; }
+};
+
 /// In place of the eigenvectors where nobody asks for them.
 struct NoVectors {};
 
