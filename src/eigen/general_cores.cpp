@@ -7,14 +7,14 @@ const int iPivot[4][4] = {{0, 1, 2, 3}, {1, 0, 3, 2}, {2, 3, 0, 1}, {3, 2, 1, 0}
 namespace zelm::eigen::general {
 namespace {
 
-template <bool vectors, int order, class S>
+template <bool vectors, class S>
 ZELM_INLINE ZelStatus schur(Columns<S> h, Columns<S> q, S* scratch, S* re, S* im, int n) {
   using T = ElementOf<S>;
   if constexpr (vectors)
     for (int j = 0; j < n; ++j)
       for (int i = 0; i < n; ++i) q.put(i, j, S(T(i == j)));
   reduce<vectors>(h, q, n, scratch);
-  return Iteration<vectors, S, order>{h, q, n, re, im}.run();
+  return Iteration<vectors, S>{h, q, n, re, im}.run();
 }
 
 }  // namespace
@@ -22,13 +22,13 @@ ZELM_INLINE ZelStatus schur(Columns<S> h, Columns<S> q, S* scratch, S* re, S* im
 template <class T>
 ZelStatus values_of_one(T* buffer, T* re, T* im, int n) {
   const Columns<T> h = {buffer, n};
-  return schur<false, 1>(h, h, h.at(0, n), re, im, n);
+  return schur<false>(h, h, h.at(0, n), re, im, n);
 }
 
 template <class T>
 Outcome vectors_of_one(T* buffer, T* re, T* im, int n, int sides) {
   const Columns<T> h = {buffer, n}, q = {h.at(0, n), n};
-  if (const ZelStatus status = schur<true, 1>(h, q, q.at(0, 2 * n), re, im, n)) return {status, false};
+  if (const ZelStatus status = schur<true>(h, q, q.at(0, 2 * n), re, im, n)) return {status, false};
   return vectors_of_form(buffer, re, im, n, sides);
 }
 
@@ -50,7 +50,7 @@ bool solve_together(Block<T, order, vectors>& block, int n) {
   if constexpr (order > 0) n = order;
   typename B::S scratch[B::largest];
   const Columns<typename B::S> h = {block.h, n}, q = {block.q, n};
-  return schur<vectors, B::largest>(h, q, scratch, block.re, block.im, n) == zelStsOk;
+  return schur<vectors>(h, q, scratch, block.re, block.im, n) == zelStsOk;
 }
 
 #define ZELM_GENERAL_ORDER(T, order)                          \

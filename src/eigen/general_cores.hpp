@@ -27,6 +27,10 @@ Outcome vectors_of_one(T* buffer, T* re, T* im, int n, int sides);
 template <class T>
 Outcome vectors_of_form(T* buffer, const T* re, const T* im, int n, int sides);
 
+/// Matrices that are computed together.
+template <class T>
+inline constexpr int kTogether = sizeof(T) == 4 ? 8 : 4;
+
 /// One matrix in each lane. Order 0 stands for any up to kLargestTogether.
 template <class T, int order, bool vectors>
 struct Block {

@@ -31,17 +31,16 @@ struct Columns {
   ZELM_INLINE void put(int i, int j, const S& x) const { store(at(i, j), x); }
 };
 
-/// sqrt(a^2 + b^2) without a large square; never tiny. The root and its product are taken in double and rounded once.
+/// sqrt(a^2 + b^2) without a large square. The root and its product are taken in double and rounded once.
 template <class S>
 ZELM_INLINE S length(const S& a, const S& b) {
   using T = ElementOf<S>;
   using Wide = typename Wider<S>::Type;
-  const S safe = Limits<T>::safe, w = larger(magnitude(a), magnitude(b)), z = smaller(magnitude(a), magnitude(b));
-  const S norm = select(exceeds(safe, z), w, S(Wide(w) * root(Wide(z * z / (w * w) + S(T(1))))));
-  return select(exceeds(safe, norm), S(Limits<T>::safe2), norm);
+  const S w = larger(magnitude(b), magnitude(a)), z = smaller(magnitude(b), magnitude(a));
+  return select(exceeds(S(Limits<T>::safe), z), w, S(Wide(w) * root(Wide(z * z / (w * w) + S(T(1))))));
 }
 
-/// I - tau v v^T with v = (1, scale x) turns (alpha, x) into (beta, 0), xnorm being the length of x.
+/// I - tau v v^T with v = (1, scale x) turns (alpha, x) into (beta, 0), xnorm being the length of x, which is not tiny.
 template <class S>
 struct Reflector {
   S beta, tau, scale;
@@ -50,7 +49,7 @@ struct Reflector {
     const S norm = length(alpha, xnorm), zero = T(0);
     beta = select(exceeds(zero, alpha), norm, zero - norm);
     tau = (beta - alpha) / beta;
-    scale = S(T(1)) / (zero - (beta - alpha));
+    scale = S(T(1)) / (alpha - beta);
   }
 };
 
@@ -180,121 +179,140 @@ struct Pair {
   }
 };
 
-/// x, y = cs x + sn y, cs y - sn x.
-template <class S>
-ZELM_INLINE void rotate(S* to_x, S* to_y, const S& cs, const S& sn, const MaskOf<S>& where) {
-  const S x = load(to_x), y = load(to_y);
-  store(to_x, select(where, cs * x + sn * y, x));
-  store(to_y, select(where, cs * y - sn * x, y));
-}
-
 /// The Schur form of a Hessenberg matrix, or, without `vectors`, no more of it than its eigenvalues take. S: a number, or Many,
-/// whose lanes share the rows that are being worked on and wait for each other where one has less to do.
-template <bool vectors, class S, int order>
+/// whose lanes each work on their own block: a sweep covers the rows of all of them, and leaves alone what lies outside a lane's.
+template <bool vectors, class S>
 struct Iteration {
   using T = ElementOf<S>;
   using M = MaskOf<S>;
+  static constexpr int lanes = NumberOf<S>::lanes;
   Columns<S> h, q;
   int n;
   S *re, *im;
 
   ZELM_INLINE ZelStatus run() {
-    // Deflation makes the block smaller from its end: what one block takes of the budget the next ones do not have. Of many
-    // matrices the slowest counts, so that they may fail together where none would alone.
-    int budget = 30 * n;
-    M taken = everywhere<S>(false);  // by the pair above
-    for (int i = n - 1; i >= 0; --i) {
-      M live = but_not(everywhere<S>(true), taken), single = everywhere<S>(false), pair = single;
-      for (int its = 0; any(live); ++its, --budget) {
-        if (its > 0 && budget == 0) return zelStsNoConvergence;
-        Starts<S, order> low;
-        M going = live;
-        int first = i;
-        for (; first > 0; --first) {
-          const S below = h.get(first, first - 1);
-          const M hit = both(going, reaches(S(Limits<T>::epsilon), magnitude(below)));
-          low.note(first, hit);
-          if (!any(hit)) continue;
-          h.put(first, first - 1, select(hit, S(T(0)), below));
-          if (first == i) single = either(single, hit);
-          if (first == i - 1) pair = either(pair, hit);
-          going = but_not(going, hit);
-          if (!any(going)) break;
-        }
-        if (first == 0) {
-          low.note(0, going);
-          if (i == 0) single = either(single, going);
-          if (i == 1) pair = either(pair, going);
-        }
-        live = but_not(live, either(single, pair));
-        if (!any(live)) break;
-        sweep(first, i, its, live, low);
-      }
-      if (any(single)) {
-        store(re + i, select(single, h.get(i, i), load(re + i)));
-        store(im + i, select(single, S(T(0)), load(im + i)));
-      }
-      if (any(pair)) close_pair(i, pair);
-      taken = pair;
+    int bottom[lanes], its[lanes], budget[lanes];
+    for (int l = 0; l < lanes; ++l) {
+      bottom[l] = n - 1;
+      its[l] = 0;
+      budget[l] = 30 * n;  // what one block takes the next ones do not have
     }
-    return zelStsOk;
+    const S zero = T(0);
+    for (;;) {
+      Extent extent = {zero, zero, n, n, -1};
+      Shifts s = {zero, zero, zero};
+      for (int l = 0; l < lanes; ++l) {
+        if (its[l] > 0 && budget[l] == 0) return zelStsNoConvergence;
+        const int top = deflate(l, bottom[l], its[l]);
+        store_lane(&extent.tops, l, T(top));
+        store_lane(&extent.bottoms, l, T(bottom[l]));
+        if (bottom[l] < 0) continue;
+        extent.top = std::min(extent.top, top);
+        extent.least_bottom = std::min(extent.least_bottom, bottom[l]);
+        extent.bottom = std::max(extent.bottom, bottom[l]);
+        set_shifts(s, l, bottom[l], its[l]);
+        ++its[l];
+        --budget[l];
+      }
+      if (extent.bottom < 0) return zelStsOk;
+      sweep(extent, s);
+    }
   }
 
  private:
-  ZELM_INLINE void close_pair(int i, const M& where) {
-    S cs = T(1), sn = T(0);
-    for (int l = 0; l < NumberOf<S>::lanes; ++l) {
-      if (!(lanes_set(where) >> l & 1)) continue;
-      S *const a = h.at(i - 1, i - 1), *const b = h.at(i - 1, i), *const c = h.at(i, i - 1), *const d = h.at(i, i);
-      Pair<T> p = {load_lane(a, l), load_lane(b, l), load_lane(c, l), load_lane(d, l)};
-      p.standardise();
-      store_lane(a, l, p.a);
-      store_lane(b, l, p.b);
-      store_lane(c, l, p.c);
-      store_lane(d, l, p.d);
-      store_lane(re + i - 1, l, p.a);
-      store_lane(im + i - 1, l, p.wi);
-      store_lane(re + i, l, p.d);
-      store_lane(im + i, l, 0 - p.wi);
-      store_lane(&cs, l, p.cs);
-      store_lane(&sn, l, p.sn);
-    }
-    if constexpr (vectors) {
-      for (int j = i + 1; j < n; ++j) rotate(h.at(i - 1, j), h.at(i, j), cs, sn, where);
-      for (int r = 0; r < i - 1; ++r) rotate(h.at(r, i - 1), h.at(r, i), cs, sn, where);
-      for (int r = 0; r < n; ++r) rotate(q.at(r, i - 1), q.at(r, i), cs, sn, where);
-    }
-  }
-
+  /// Rows of the lanes' blocks.
+  struct Extent {
+    S tops, bottoms;  // as numbers; below 0 where nothing is left to do
+    int top, least_bottom, bottom;
+  };
   struct Shifts {
     S h44, h33, h43h34;
   };
+  struct Reflection {
+    int k;
+    S tau, v2, v3;
+    M still, short_or_still;  // lanes that it leaves alone, and those of which it turns two rows or none
+    bool idle, mixed, every;
+  };
 
-  ZELM_INLINE Shifts shifts(int i, int its) const {
-    if (its == 10 || its == 20) {
-      const S s = magnitude(h.get(i, i - 1)) + magnitude(h.get(i - 1, i - 2)), h44 = S(T(0.75)) * s + h.get(i, i);
-      return {h44, h44, S(T(-0.4375)) * s * s};
+  ZELM_INLINE T get(int l, int i, int j) const { return load_lane(h.at(i, j), l); }
+  static ZELM_INLINE M is(const S& number, int k) { return equals(number, S(T(k))); }
+
+  /// Finishes blocks of order 1 and 2 at the end of lane l and returns the first row of the one that `bottom` ends then.
+  ZELM_INLINE int deflate(int l, int& bottom, int& its) const {
+    while (bottom >= 0) {
+      int top = bottom;
+      for (; top > 0; --top)
+        if (Limits<T>::epsilon >= std::fabs(get(l, top, top - 1))) {
+          store_lane(h.at(top, top - 1), l, T(0));
+          break;
+        }
+      const int size = bottom - top + 1;
+      if (size > 2) return top;
+      if (size == 2) {
+        close_pair(l, bottom);
+      } else {
+        store_lane(re + bottom, l, get(l, bottom, bottom));
+        store_lane(im + bottom, l, T(0));
+      }
+      bottom -= size;
+      its = 0;
     }
-    const S zero = T(0), h44 = h.get(i, i), h33 = h.get(i - 1, i - 1), h43h34 = h.get(i, i - 1) * h.get(i - 1, i);
-    const S half = (h33 - h44) * S(T(0.5)), disc = half * half + h43h34, distance = root(disc);
-    // Two real eigenvalues: the one closer to h44, twice.
-    const M real = exceeds(disc, zero);
-    const S ave = (h44 + h33) * S(T(0.5)), t = ave + select(exceeds(zero, ave), zero - distance, distance);
-    const S shift = select(exceeds(magnitude(h33) - magnitude(h44), zero), (h44 * h33 - h43h34) / t, t);
-    return {select(real, shift, h44), select(real, shift, h33), select(real, zero, h43h34)};
+    return -1;
   }
 
-  /// One double-shift sweep over rows l, ..., i, l being where `low` says, nowhere below `first`.
-  ZELM_INLINE void sweep(int first, int i, int its, const M& live, const Starts<S, order>& low) {
+  ZELM_INLINE void close_pair(int l, int i) const {
+    Pair<T> p = {get(l, i - 1, i - 1), get(l, i - 1, i), get(l, i, i - 1), get(l, i, i)};
+    p.standardise();
+    store_lane(h.at(i - 1, i - 1), l, p.a);
+    store_lane(h.at(i - 1, i), l, p.b);
+    store_lane(h.at(i, i - 1), l, p.c);
+    store_lane(h.at(i, i), l, p.d);
+    store_lane(re + i - 1, l, p.a);
+    store_lane(im + i - 1, l, p.wi);
+    store_lane(re + i, l, p.d);
+    store_lane(im + i, l, 0 - p.wi);
+    if constexpr (vectors) {
+      const auto rotate = [&](S* to_x, S* to_y) ZELM_INLINE_LAMBDA {
+        const T x = load_lane(to_x, l), y = load_lane(to_y, l);
+        store_lane(to_x, l, p.cs * x + p.sn * y);
+        store_lane(to_y, l, p.cs * y - p.sn * x);
+      };
+      for (int j = i + 1; j < n; ++j) rotate(h.at(i - 1, j), h.at(i, j));
+      for (int r = 0; r < i - 1; ++r) rotate(h.at(r, i - 1), h.at(r, i));
+      for (int r = 0; r < n; ++r) rotate(q.at(r, i - 1), q.at(r, i));
+    }
+  }
+
+  ZELM_INLINE void set_shifts(Shifts& s, int l, int i, int its) const {
+    T h44 = get(l, i, i), h33 = get(l, i - 1, i - 1), h43h34 = get(l, i, i - 1) * get(l, i - 1, i);
+    if (its == 10 || its == 20) {
+      const T size = std::fabs(get(l, i, i - 1)) + std::fabs(get(l, i - 1, i - 2));
+      h44 = h33 = T(0.75) * size + h44;
+      h43h34 = T(-0.4375) * size * size;
+    } else {
+      const T half = (h33 - h44) * T(0.5), disc = half * half + h43h34;
+      if (disc > 0) {  // two real eigenvalues: the one closer to h44, twice
+        const T ave = (h44 + h33) * T(0.5), distance = root(disc), t = ave + (ave < 0 ? -distance : distance);
+        h44 = h33 = std::fabs(h33) - std::fabs(h44) > 0 ? (h44 * h33 - h43h34) / t : t;
+        h43h34 = 0;
+      }
+    }
+    store_lane(&s.h44, l, h44);
+    store_lane(&s.h33, l, h33);
+    store_lane(&s.h43h34, l, h43h34);
+  }
+
+  /// One double-shift sweep over the block of each lane.
+  ZELM_INLINE void sweep(const Extent& extent, const Shifts& s) {
     using Wide = typename Wider<S>::Type;
     const auto size = [](const S& x) ZELM_INLINE_LAMBDA { return magnitude(Wide(x)); };  // in double whatever T is
-    const Shifts s = shifts(i, its);
     const S zero = T(0), one = T(1);
-    S q1 = zero, q2 = zero, q3 = zero;
-    Starts<S, order> starts;
-    M searching = live;
-    int m = i - 2;
+    S q1 = zero, q2 = zero, q3 = zero, starts = zero;
+    M searching = everywhere<S>(false);
+    int m = extent.bottom - 2;
     for (;; --m) {
+      searching = either(searching, is(extent.bottoms, m + 2));
       const S h11 = h.get(m, m), h22 = h.get(m + 1, m + 1), h44s = s.h44 - h11, h33s = s.h33 - h11;
       const S u1 = (h33s * h44s - s.h43h34) / h.get(m + 1, m) + h.get(m, m + 1), u2 = h22 - h11 - h44s - h33s;
       const S u3 = h.get(m + 2, m + 1);
@@ -302,69 +320,96 @@ struct Iteration {
       q1 = select(searching, S(Wide(u1) / sum), q1);
       q2 = select(searching, S(Wide(u2) / sum), q2);
       q3 = select(searching, S(Wide(u3) / sum), q3);
-      M stop = low.at(m);
-      if (m > first) {
+      M stop = is(extent.tops, m);
+      if (m > extent.top) {
         const Wide small = size(q1) * Wide(Limits<T>::epsilon) * (size(h11) + size(h22) + size(h.get(m - 1, m - 1)));
         stop = either(stop, Wider<S>::mask(reaches(small, (size(q2) + size(q3)) * size(h.get(m, m - 1)))));
       }
       stop = both(searching, stop);
-      starts.note(m, stop);
+      starts = select(stop, S(T(m)), starts);
       searching = but_not(searching, stop);
-      if (!any(searching) || m == first) break;
+      if (m == extent.top || (m <= extent.least_bottom - 2 && !any(searching))) break;
     }
 
-    M active = everywhere<S>(false);
-    const int lowest = m;
-    for (int k = lowest; k < i; ++k) {
-      const bool three = k < i - 1;
-      // Above i - 2 nothing starts.
-      const M starting = three ? starts.at(k) : everywhere<S>(false);
+    const auto reflection = [&](int k) ZELM_INLINE_LAMBDA {
+      const S here = T(k);
+      const bool three = k < extent.bottom - 1;
+      const M moving = both(reaches(here, starts), exceeds(extent.bottoms, here)),
+              starting = both(moving, equals(starts, here));
+      const M ending = is(extent.bottoms, k + 1);  // of two rows
       S v1 = q1, v2 = q2, v3 = three ? q3 : zero;
-      if (k > lowest) {
-        v1 = select(active, h.get(k, k - 1), v1);
-        v2 = select(active, h.get(k + 1, k - 1), v2);
-        if (three) v3 = select(active, h.get(k + 2, k - 1), v3);
+      if (k > m) {
+        v1 = select(starting, q1, h.get(k, k - 1));
+        v2 = select(starting, q2, h.get(k + 1, k - 1));
+        if (three) v3 = unless(ending, select(starting, q3, h.get(k + 2, k - 1)));
       }
-      const M moving = either(active, starting);
       const S xnorm = root(three ? v2 * v2 + v3 * v3 : v2 * v2);
       const M still = either(but_not(everywhere<S>(true), moving), exceeds(S(Limits<T>::safe), xnorm));
       const Reflector<S> r(v1, xnorm);
-      const S tau = select(still, zero, r.tau);
-      v2 = v2 * r.scale;
-      v3 = v3 * r.scale;
-      if (k > lowest) {
-        h.put(k, k - 1, select(active, select(still, v1, r.beta), h.get(k, k - 1)));
-        h.put(k + 1, k - 1, select(active, zero, h.get(k + 1, k - 1)));
-        if (three) h.put(k + 2, k - 1, select(active, zero, h.get(k + 2, k - 1)));
+      if (k > m) {
+        const M carried = but_not(moving, starting);
+        h.put(k, k - 1, select(carried, select(still, v1, r.beta), h.get(k, k - 1)));
+        h.put(k + 1, k - 1, unless(carried, h.get(k + 1, k - 1)));
+        if (three) h.put(k + 2, k - 1, unless(carried, h.get(k + 2, k - 1)));
       }
-      if (k > first && three) {
-        const M above = but_not(starting, low.at(k));
+      const S tau = select(still, zero, r.tau);
+      if (k > extent.top && three) {
+        const M above = but_not(starting, is(extent.tops, k));
         if (any(above)) h.put(k, k - 1, select(above, h.get(k, k - 1) * (one - tau), h.get(k, k - 1)));
       }
-      active = moving;
-      if (all(still)) continue;
-      // Below row k + 3 the columns are still zero.
-      const int first_row = vectors ? 0 : first, rows = std::min(k + 3, i) + 1, columns = vectors ? n : i + 1;
-      if (three) reflect<3>(k, columns, first_row, rows, tau, v2, v3, still);
-      else reflect<2>(k, columns, first_row, rows, tau, v2, v3, still);
+      return Reflection{
+          k, tau, v2 * r.scale, v3 * r.scale, still, either(still, ending), all(still), any(both(moving, ending)), !any(still)};
+    };
+    // Each reflection is made of what the one before leaves in one column: that comes first, so that divisions and roots go on
+    // beside the rest. Below row k + 3 the columns are still zero.
+    const int first_row = vectors ? 0 : extent.top, columns = vectors ? n : extent.bottom + 1;
+    Reflection r = reflection(m);
+    for (int k = m; k < extent.bottom - 1; ++k) {
+      const int rows = std::min(k + 3, extent.bottom) + 1;
+      turn_three(r, k, k + 3, k + 1, rows, 0);
+      const Reflection next = reflection(k + 1);
+      turn_three(r, k + 3, columns, first_row, k + 1, n);
+      r = next;
     }
+    if (!r.idle) turn<Rows::two>(r, r.k, columns, first_row, extent.bottom + 1, n);
   }
 
-  template <int size>
-  ZELM_INLINE void reflect(int k, int columns, int first_row, int rows, const S& tau, const S& v2, const S& v3,
-                           const M& still) {
-    const S t2 = tau * v2, t3 = tau * v3;
-    const auto turn = [&](S* x, S* y, S* z) ZELM_INLINE_LAMBDA {
-      S sum = load(x) + v2 * load(y);
-      if constexpr (size == 3) sum = sum + v3 * load(z);
-      store(x, load(x) - unless(still, sum * tau));
-      store(y, load(y) - unless(still, sum * t2));
-      if constexpr (size == 3) store(z, load(z) - unless(still, sum * t3));
+  enum class Rows { two, three, mixed, every };
+
+  ZELM_INLINE void turn_three(const Reflection& r, int column, int columns, int row, int rows, int vector_rows) const {
+    if (r.idle) return;
+    if (r.mixed) turn<Rows::mixed>(r, column, columns, row, rows, vector_rows);
+    else if (r.every) turn<Rows::every>(r, column, columns, row, rows, vector_rows);
+    else turn<Rows::three>(r, column, columns, row, rows, vector_rows);
+  }
+
+  /// Columns column, ..., columns - 1 of three rows, rows row, ..., rows - 1 of three columns, and so many rows of q.
+  template <Rows size>
+  __attribute__((noinline)) void turn(const Reflection& r, int column, int columns, int row, int rows, int vector_rows) const {
+    const S tau = r.tau, v2 = r.v2, v3 = r.v3, t2 = tau * v2, t3 = tau * v3;
+    const M still = size == Rows::every ? everywhere<S>(false) : r.still,
+            stays = size == Rows::mixed ? r.short_or_still : still;
+    const std::ptrdiff_t length = n;
+    const auto turn = [&](S* x, std::ptrdiff_t across) ZELM_INLINE_LAMBDA {
+      S *const y = x + across, *const z = y + across;
+      const S a = load(x), b = load(y);
+      S sum = a + v2 * b;
+      if constexpr (size == Rows::two) {
+        store(x, a - unless(still, sum * tau));
+        store(y, b - unless(still, sum * t2));
+      } else {
+        const S c = load(z);
+        // -0 changes nothing, be it added to a zero of either sign.
+        sum = sum + (size == Rows::mixed ? select(stays, S(T(-0.0)), v3 * c) : v3 * c);
+        store(x, a - unless(still, sum * tau));
+        store(y, b - unless(still, sum * t2));
+        store(z, c - unless(stays, sum * t3));
+      }
     };
-    for (int j = k; j < columns; ++j) turn(h.at(k, j), h.at(k + 1, j), h.at(k, j) + 2);
-    for (int r = first_row; r < rows; ++r) turn(h.at(r, k), h.at(r, k + 1), h.at(r, k) + 2 * n);
+    for (S *x = h.at(r.k, column), *const end = h.at(r.k, columns); x < end; x += length) turn(x, 1);
+    for (S *x = h.at(row, r.k), *const end = h.at(rows, r.k); x < end; ++x) turn(x, length);
     if constexpr (vectors)
-      for (int r = 0; r < n; ++r) turn(q.at(r, k), q.at(r, k + 1), q.at(r, k) + 2 * n);
+      for (S *x = q.at(0, r.k), *const end = q.at(vector_rows, r.k); x < end; ++x) turn(x, length);
   }
 };
 

@@ -163,16 +163,38 @@ struct Substitution {
   }
 };
 
+/// One number where the others are packs.
+template <class T>
+struct Single {
+  T raw;
+  static ZELM_INLINE Single splat(T x) { return {x}; }
+  static ZELM_INLINE Single load(const T* p) { return {zelm::load(p)}; }
+  ZELM_INLINE void store(T* p) const { zelm::store(p, raw); }
+  friend ZELM_INLINE Single operator+(Single a, Single b) { return {a.raw + b.raw}; }
+  friend ZELM_INLINE Single operator*(Single a, Single b) { return {a.raw * b.raw}; }
+};
+
+/// Elements i, ..., of as many as S holds, of x = Q y. `end`: elements of y that are in use; the last of them comes first.
+template <class S, Side side, class T>
+ZELM_INLINE void product(const Triangle<side, T>& t, Columns<T> q, const T* y, int end, T* x, int i) {
+  const auto term = [&](int k) ZELM_INLINE_LAMBDA { return S::splat(load(y + k)) * S::load(q.at(i, t.place(k))); };
+  S sum = term(end - 1);
+  ZELM_AS_IT_STANDS for (int k = 0; k < end - 1; ++k) sum = sum + term(k);
+  sum.store(x + i);
+}
+template <Side side, class T>
+ZELM_INLINE void product(const Triangle<side, T>& t, Columns<T> q, const T* y, int end, T* x) {
+  int i = 0;
+  for (; i + Pack<T>::lanes <= q.n; i += Pack<T>::lanes) product<Pack<T>>(t, q, y, end, x, i);
+  for (; i < q.n; ++i) product<Single<T>>(t, q, y, end, x, i);
+}
+
 /// x = Q y, largest element 1, for the `end` first elements of y. False where the vector has vanished.
 template <Side side, class N, class T>
 ZELM_INLINE bool turn_back(const Triangle<side, T>& t, Columns<T> q, Work<N, T> y, int end, Work<N, T> x) {
   const int n = q.n;
-  ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) x.put(i, y.get(end - 1) * q.get(i, t.place(end - 1)));
-  ZELM_AS_IT_STANDS for (int k = 0; k < end - 1; ++k) {
-    const N yk = y.get(k);
-    const int column = t.place(k);
-    ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) x.put(i, x.get(i) + yk * q.get(i, column));
-  }
+  product(t, q, y.re, end, x.re);
+  if constexpr (!std::is_same_v<N, T>) product(t, q, y.im, end, x.im);
   T emax = 0;
   ZELM_AS_IT_STANDS for (int i = 0; i < n; ++i) emax = std::max(emax, size_of(x.get(i)));
   if (!(emax > Limits<T>::epsilon)) return false;

@@ -5,27 +5,7 @@
 
 namespace zelm::eigen {
 
-/// Matrices that are computed together, one in each lane. More of them hide the latency of divisions and roots, fewer wait less for
-/// each other.
-template <class T>
-inline constexpr int kTogether = sizeof(T) == 4 ? 8 : 4;
-inline constexpr int kLargestTogether = 16;  // order
-
-/// Where the block that is being worked on begins, in each lane.
-template <class S, int order>
-struct Starts {
-  S begin[order];
-  ZELM_INLINE void note(int i, const S& here) { begin[i] = here; }
-  ZELM_INLINE S at(int i) const { return begin[i]; }
-};
-template <Number S, int order>
-struct Starts<S, order> {
-  int begin;
-  ZELM_INLINE void note(int i, bool here) {
-    if (here) begin = i;
-  }
-  ZELM_INLINE bool at(int i) const { return i == begin; }
-};
+inline constexpr int kLargestTogether = 16;  // order of matrices that are computed together, one in each lane
 
 /// Row by row without a gap.
 template <class Object, class T>

@@ -85,7 +85,7 @@ ZelStatus vectors_of(const Source& source, T* buffer, const Object& z, T* values
 template <int order, class A, class T, class D>
 __attribute__((noinline)) int solve_blocks(A a, D dst, T* values, int n, int count, const Rules& rules) {
   constexpr bool vectors = !std::is_same_v<D, NoVectors>;
-  constexpr int L = kTogether<T>;
+  constexpr int L = kTogether;
   if constexpr (order > 0) n = order;
   Block<T, order, vectors> block;
   int k = 0;
@@ -97,8 +97,10 @@ __attribute__((noinline)) int solve_blocks(A a, D dst, T* values, int n, int cou
       for (int i = 0; i < n; ++i) store(values + std::ptrdiff_t(k + l) * n + i, load_lane(block.values + i, l));
       if constexpr (vectors) {
         const auto z = dst.object(k + l);
-        for (int i = 0; i < n; ++i)
-          for (int j = 0; j < n; ++j) store(z.at(i, j), load_lane(block.z + j * n + i, l));
+        for (int j = 0; j < n; ++j) {
+          const T* const x = block.vector(l, int(load_lane(block.places + j, l)), n);
+          for (int i = 0; i < n; ++i) store(z.at(i, j), x[i]);
+        }
       }
     }
     k += valid;

@@ -28,14 +28,56 @@ ZELM_INLINE void load_identity(const Z& z, int n, S one, S zero) {
 }
 
 /// Columns i and j, which rise with the sweep.
-template <class V, class S, class Z>
-ZELM_INLINE void rotate(const Z& z, int n, int i, int j, const V& c, const V& s, const MaskOf<V>& where) {
+template <class V, class T, class Z>
+ZELM_INLINE void rotate(const Z& z, int n, int i, int j, V c, V s) {
   for (int k = 0; k < n; ++k) {
     const V zi = V(z.get(k, i)), zj = V(z.get(k, j));
-    z.put(k, i, S(select(where, c * zi + s * zj, zi)));
-    z.put(k, j, S(select(where, c * zj - s * zi, zj)));
+    z.put(k, i, T(c * zi + s * zj));
+    z.put(k, j, T(c * zj - s * zi));
   }
 }
+
+/// Turns 2 * packs elements of columns, `height` elements each, by rotations first, ..., last - 1 of lane l.
+template <int packs, class V, class T>
+__attribute__((noinline)) void turn(const V* c, const V* s, int l, int first, int last, T* columns, int height) {
+  using P = Pack<double>;
+  T* at = columns + first * height;
+  P zi[packs];
+  ZELM_UNROLL for (int q = 0; q < packs; ++q) zi[q] = P::load(at + 2 * q);
+  ZELM_AS_IT_STANDS for (int i = first; i < last; ++i, at += height) {
+    const P ci = P::splat(load_lane(c + i, l)), si = P::splat(load_lane(s + i, l));
+    ZELM_UNROLL for (int q = 0; q < packs; ++q) {
+      const P zj = P::load(at + height + 2 * q);
+      (ci * zi[q] + si * zj).store(at + 2 * q);
+      zi[q] = (ci * zj - si * zi[q]).as(columns);
+    }
+  }
+  ZELM_UNROLL for (int q = 0; q < packs; ++q) zi[q].store(at + 2 * q);
+}
+
+/// The rotations of one sweep, in lanes.
+template <class V, int largest>
+struct Rotations {
+  V c[largest], s[largest];
+  int where[largest];  // bit l: of lane l
+
+  /// Turns the columns of lane l by those of rotations first, ..., last - 1 that it has: some in succession.
+  template <class T>
+  ZELM_INLINE void apply(int l, int first, int last, T* columns, int height) const {
+    while (first < last && !(where[first] >> l & 1)) ++first;
+    while (first < last && !(where[last - 1] >> l & 1)) --last;
+    if (first == last) return;
+    // As many at once as there are registers for: from one column to the next it takes 18 cycles, of float.
+    int k = 0;
+    for (; k + 10 <= height; k += 10) turn<5>(c, s, l, first, last, columns + k, height);
+    switch ((height - k) / 2) {
+      case 1: return turn<1>(c, s, l, first, last, columns + k, height);
+      case 2: return turn<2>(c, s, l, first, last, columns + k, height);
+      case 3: return turn<3>(c, s, l, first, last, columns + k, height);
+      case 4: return turn<4>(c, s, l, first, last, columns + k, height);
+    }
+  }
+};
 
 /// The sweeps have two mirrored forms: the smaller end of the diagonal should be where they end. The ascending form is the
 /// descending one on the matrix with its rows and columns in reverse.
@@ -77,8 +119,10 @@ ZelStatus solve_one(T* buffer, const Z& z, T* values, int n, const Rules& rules)
         if (hit && !reversed) store(values + m, load(d + m));
       },
       [&](int i, V c, V s, bool where) {
-        if constexpr (vectors) rotate<V, T>(z, n, place(i), place(i + 1), c, s, where);
-      });
+        if constexpr (vectors)
+          if (where) rotate<V, T>(z, n, place(i), place(i + 1), c, s);
+      },
+      [](int, int) {});
   if (!converged) return zelStsNoConvergence;
   if (reversed) {
     product = 1;
@@ -108,50 +152,58 @@ ZELM_INLINE bool solve_here(Block<T, order, vectors>& block, int n, const Rules&
   using B = Block<T, order, vectors>;
   using S = typename B::S;
   const Square<S> a = {block.a, n};
-  const Runs<S> z = {block.z, n};
+  MaskOf<S> reversed;
   S u[B::largest], d[B::largest], e[B::largest];
   if constexpr (vectors) {
+    S columns[B::largest * B::largest];
+    const Runs<S> z = {columns, n};
     load_identity(z, n, S(T(1)), S(T(0)));
     reduce(a, u, n, rules, z);
+    reversed = exceeds(magnitude(a.get(n - 1, n - 1)), magnitude(a.get(0, 0)));
+    for (int l = 0; l < S::lanes; ++l)
+      for (int j = 0; j < n; ++j) {
+        T* const x = block.vector(l, lanes_set(reversed) >> l & 1 ? n - 1 - j : j, n);
+        if (n % 2 == 1) x[n] = 0;
+        for (int i = 0; i < n; ++i) x[i] = load_lane(&z.get(i, j), l);
+      }
   } else {
     reduce(a, u, n, rules, NoVectors{});
+    reversed = exceeds(magnitude(a.get(n - 1, n - 1)), magnitude(a.get(0, 0)));
   }
-  const MaskOf<S> reversed = exceeds(magnitude(a.get(n - 1, n - 1)), magnitude(a.get(0, 0)));
   for (int i = 0; i < n; ++i) {
     d[i] = select(reversed, a.get(n - 1 - i, n - 1 - i), a.get(i, i));
     if (i > 0) e[i] = select(reversed, a.get(n - i, n - i - 1), a.get(i, i - 1));
   }
-  const auto reverse_vectors = [&] {
-    for (int i = 0; i < n / 2; ++i)
-      for (int k = 0; k < n; ++k) {
-        const S zi = z.get(k, i), zj = z.get(k, n - 1 - i);
-        z.put(k, i, select(reversed, zj, zi));
-        z.put(k, n - 1 - i, select(reversed, zi, zj));
-      }
-  };
-  if constexpr (vectors) reverse_vectors();
   V stops = ElementOf<V>(1);
+  Rotations<V, vectors ? B::largest : 1> rotations;
   if (!sweep<V, B::largest>(
           d, e, n, stops, [](int, const V&) {},
           [&](int i, const V& c, const V& s, const V& where) ZELM_INLINE_LAMBDA {
-            if constexpr (vectors) rotate<V, S>(z, n, i, i + 1, c, s, where);
+            if constexpr (vectors) {
+              rotations.c[i] = c;
+              rotations.s[i] = s;
+              rotations.where[i] = lanes_set(where);
+            }
+          },
+          [&](int first, int last) ZELM_INLINE_LAMBDA {
+            if constexpr (vectors)
+              for (int l = 0; l < S::lanes; ++l) rotations.apply(l, first, last, block.vector(l, 0, n), n + n % 2);
           }))
     return false;
-  if constexpr (vectors) reverse_vectors();
   // The product of all of them in their order, where the form was the ascending one; else of those at the stops, and the first.
   V all_of_them = ElementOf<V>(1);
   for (int i = n - 1; i >= 0; --i) all_of_them = all_of_them * V(d[i]);
   const V product = V(select(reversed, S(T(0)), S(T(1))));
   const V stopped = stops * V(d[0]), limit = ElementOf<V>(kEpsilon<T>);
   if (any(reaches(limit, magnitude(select(exceeds(product, V(ElementOf<V>(0))), stopped, all_of_them))))) return false;
-  for (int i = 0; i < n; ++i) block.values[i] = select(reversed, d[n - 1 - i], d[i]);
+  for (int i = 0; i < n; ++i) {
+    block.values[i] = select(reversed, d[n - 1 - i], d[i]);
+    block.places[i] = select(reversed, S(T(n - 1 - i)), S(T(i)));
+  }
   sort(block.values, n, [&](int i, int j, const S& where) ZELM_INLINE_LAMBDA {
-    if constexpr (vectors)
-      for (int k = 0; k < n; ++k) {
-        const S zi = z.get(k, i), zj = z.get(k, j);
-        z.put(k, i, select(where, zj, zi));
-        z.put(k, j, select(where, zi, zj));
-      }
+    const S pi = block.places[i], pj = block.places[j];
+    block.places[i] = select(where, pj, pi);
+    block.places[j] = select(where, pi, pj);
   });
   return true;
 }
@@ -172,7 +224,7 @@ ZelStatus vectors_of_one(T* buffer, Object z, T* values, int n, const Rules& rul
 template <class T, int order, bool vectors>
 bool solve_together(Block<T, order, vectors>& block, int n, const Rules& rules) {
   // Of many matrices the vectors always come from sweeps in double.
-  using V = Many<std::conditional_t<vectors, double, T>, kTogether<T>>;
+  using V = Many<std::conditional_t<vectors, double, T>, kTogether>;
   return solve_here<V>(block, order ? order : n, rules);
 }
 

@@ -21,14 +21,20 @@ ZelStatus values_of_one(T* buffer, T* values, int n, const Rules& rules);
 template <class T, class Object>
 ZelStatus vectors_of_one(T* buffer, Object z, T* values, int n, const Rules& rules);
 
-/// One matrix in each lane. Order 0 stands for any up to kLargestTogether.
+/// Matrices that are computed together. More of them hide the latency of divisions and roots, fewer wait less for each other.
+inline constexpr int kTogether = 8;
+
+/// One matrix in each lane. Order 0 stands for any up to kLargestTogether. Eigenvectors stand one after the other, those of one
+/// matrix before those of the next: rotations take no turns of lanes that have nothing to do.
 template <class T, int order, bool vectors>
 struct Block {
   static constexpr int largest = order ? order : kLargestTogether;
-  using S = Many<T, kTogether<T>>;
-  S a[largest * largest];                // row by row without a gap
-  S z[vectors ? largest * largest : 1];  // one eigenvector after the other
+  using S = Many<T, kTogether>;
+  S a[largest * largest];  // row by row without a gap
   S values[largest];
+  S places[largest];                                                // of the vectors, as numbers
+  T z[vectors ? S::lanes * largest * (largest + largest % 2) : 1];  // of an even number of elements each
+  ZELM_INLINE T* vector(int lane, int place, int n) { return z + (lane * n + place) * (n + n % 2); }
 };
 
 /// False if the product of the eigenvalues is small in any lane, or if any takes too many sweeps: then the objects must be done

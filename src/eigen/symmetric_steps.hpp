@@ -38,6 +38,22 @@ struct Square {
   ZELM_INLINE void put(int i, int j, const S& x) const { store(first + std::ptrdiff_t(i) * order + j, x); }
 };
 
+/// Where the block that is being worked on begins, in each lane.
+template <class S, int order>
+struct Starts {
+  S begin[order];
+  ZELM_INLINE void note(int i, const S& here) { begin[i] = here; }
+  ZELM_INLINE S at(int i) const { return begin[i]; }
+};
+template <Number S, int order>
+struct Starts<S, order> {
+  int begin;
+  ZELM_INLINE void note(int i, bool here) {
+    if (here) begin = i;
+  }
+  ZELM_INLINE bool at(int i) const { return i == begin; }
+};
+
 /// In place of the eigenvectors where nobody asks for them.
 struct NoVectors {};
 
@@ -106,9 +122,9 @@ ZELM_INLINE void reduce(Square<S> a, S* u, int n, const Rules& rules, const Z& z
 
 /// QL sweeps on the diagonal d[0 .. n-1] and the elements e[1 .. n-1] below it, until all of the latter count as zero; false if
 /// that takes too many. `product` is multiplied by every d[m] at which a search stops, m > 0; stop(m, where) hears of it.
-/// rotate(i, c, s, where) turns columns i and i + 1 of the eigenvectors.
-template <class V, int order, class S, class Stop, class Rotate>
-ZELM_INLINE bool sweep(S* d_at, S* e_at, int n, V& product, Stop stop, Rotate rotate) {
+/// rotate(i, c, s, where) is to turn columns i and i + 1 of the eigenvectors; swept(first, l) hears of the end of a sweep over them.
+template <class V, int order, class S, class Stop, class Rotate, class Swept>
+ZELM_INLINE bool sweep(S* d_at, S* e_at, int n, V& product, Stop stop, Rotate rotate, Swept swept) {
   using M = MaskOf<V>;
   const V epsilon = ElementOf<V>(kEpsilon<S>);
   const V one = ElementOf<V>(1), two = ElementOf<V>(2), half = ElementOf<V>(0.5), zero = ElementOf<V>(0);
@@ -172,6 +188,7 @@ ZELM_INLINE bool sweep(S* d_at, S* e_at, int n, V& product, Stop stop, Rotate ro
       const M closing = both(active, exceeds(magnitude(t), epsilon));
       set_d(l, select(closing, d(l) - p, d(l)));
       set_e(l, select(closing, g, e(l)));
+      swept(first, l);
     }
   }
   return true;

@@ -102,6 +102,10 @@ ZELM_INLINE bool reaches(T a, T b) {
   return a >= b;
 }
 template <Number T>
+ZELM_INLINE bool equals(T a, T b) {
+  return a == b;
+}
+template <Number T>
 ZELM_INLINE T select(bool mask, T yes, T no) {
   return mask ? yes : no;
 }
@@ -140,6 +144,12 @@ ZELM_INLINE Pack<double> reaches(Pack<double> a, Pack<double> b) { return {_mm_c
 template <class T, int L>
 ZELM_INLINE Many<T, L> reaches(const Many<T, L>& a, const Many<T, L>& b) {
   return ZELM_PACKS(T, L, reaches(a.part[q], b.part[q]));
+}
+ZELM_INLINE Pack<float> equals(Pack<float> a, Pack<float> b) { return {_mm_cmpeq_ps(a.raw, b.raw)}; }
+ZELM_INLINE Pack<double> equals(Pack<double> a, Pack<double> b) { return {_mm_cmpeq_pd(a.raw, b.raw)}; }
+template <class T, int L>
+ZELM_INLINE Many<T, L> equals(const Many<T, L>& a, const Many<T, L>& b) {
+  return ZELM_PACKS(T, L, equals(a.part[q], b.part[q]));
 }
 template <class T, int L>
 ZELM_INLINE Many<T, L> select(const Many<T, L>& mask, const Many<T, L>& yes, const Many<T, L>& no) {
@@ -182,13 +192,22 @@ ZELM_INLINE Many<T, L> but_not(const Many<T, L>& a, const Many<T, L>& b) {
 
 #undef ZELM_PACKS
 
-template <class S>
-ZELM_INLINE S larger(const S& a, const S& b) {
-  return select(exceeds(b, a), b, a);
+/// The second where one is no number.
+template <Number T>
+ZELM_INLINE T larger(T a, T b) {
+  return a > b ? a : b;
 }
-template <class S>
-ZELM_INLINE S smaller(const S& a, const S& b) {
-  return select(exceeds(a, b), b, a);
+template <Number T>
+ZELM_INLINE T smaller(T a, T b) {
+  return a < b ? a : b;
+}
+template <class T, int L>
+ZELM_INLINE Many<T, L> larger(const Many<T, L>& a, const Many<T, L>& b) {
+  return Many<T, L>::each([&](int q) { return max_or_second(a.part[q], b.part[q]); });
+}
+template <class T, int L>
+ZELM_INLINE Many<T, L> smaller(const Many<T, L>& a, const Many<T, L>& b) {
+  return Many<T, L>::each([&](int q) { return min_or_second(a.part[q], b.part[q]); });
 }
 
 /// The same in double, and the mask of a comparison there.

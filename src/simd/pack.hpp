@@ -161,8 +161,13 @@ struct Pack<double> {
     return {both};
   }
   static ZELM_INLINE Pack load(const double* p) { return {_mm_loadu_pd(p)}; }
+  static ZELM_INLINE Pack load(const float* p) { return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadu_si64(p)))}; }
   static ZELM_INLINE Pack load_aligned(const double* p) { return {_mm_load_pd(p)}; }
   ZELM_INLINE void store(double* p) const { _mm_storeu_pd(p, raw); }
+  ZELM_INLINE void store(float* p) const { _mm_storeu_si64(p, _mm_castps_si128(_mm_cvtpd_ps(raw))); }
+  /// What a store and a load would leave.
+  ZELM_INLINE Pack as(const double*) const { return *this; }
+  ZELM_INLINE Pack as(const float*) const { return {_mm_cvtps_pd(_mm_cvtpd_ps(raw))}; }
   ZELM_INLINE double first() const { return _mm_cvtsd_f64(raw); }
   ZELM_INLINE void stream(double* p) const { _mm_stream_pd(p, raw); }
 
@@ -201,6 +206,7 @@ struct Pack<double> {
   friend ZELM_INLINE Pack select(Pack mask, Pack yes, Pack no) { return {_mm_blendv_pd(no.raw, yes.raw, mask.raw)}; }
   friend ZELM_INLINE Pack abs(Pack a) { return and_not(a, splat(-0.0)); }
   friend ZELM_INLINE Pack max_or_second(Pack a, Pack b) { return {_mm_max_pd(a.raw, b.raw)}; }
+  friend ZELM_INLINE Pack min_or_second(Pack a, Pack b) { return {_mm_min_pd(a.raw, b.raw)}; }
   friend ZELM_INLINE int lane_bits(Pack mask) { return _mm_movemask_pd(mask.raw); }
   friend ZELM_INLINE __m128i to_int32(Pack a) { return _mm_cvttpd_epi32(a.raw); }
 };
