@@ -107,6 +107,7 @@ struct StridedView {
   using T = std::remove_const_t<Element>;
   using Object = StridedObject<Element, adjacent, columns>;
   static constexpr bool array = is_array, plain = adjacent, constant = false;
+  static constexpr bool known_tight = columns > 0;
   Element* first;
   Bytes stride0, row_stride, element_stride;
 
@@ -133,6 +134,8 @@ struct StridedView {
   /// True if all elements of all objects form one run of memory without a gap, row by row and object by object.
   ZELM_INLINE bool tight(int of_rows, int of_columns) const {
     if constexpr (!adjacent) return false;
+    if constexpr (columns > 0)
+      if (of_rows == rows && of_columns == columns) return true;
     const Bytes row = of_columns * Bytes(sizeof(T));
     return (of_rows == 1 || row_stride == row) && stride0 == of_rows * row;
   }
