@@ -147,6 +147,8 @@ struct StridedView {
   /// True if all elements of all objects form one run of memory without a gap, row by row and object by object.
   ZELM_INLINE bool tight(int of_rows, int of_columns) const {
     if constexpr (!adjacent) return false;
+    if constexpr (columns > 0)
+      if (of_rows == rows && of_columns == columns) return true;
     const Bytes row = of_columns * Bytes(sizeof(T));
     return (of_rows == 1 || row_stride == row) && stride0 == of_rows * row;
   }

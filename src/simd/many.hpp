@@ -19,6 +19,7 @@ struct Many {
   Many() = default;
   /// The same number in all lanes.
   ZELM_INLINE Many(T x) { ZELM_UNROLL for (int q = 0; q < packs; ++q) part[q] = P::splat(x); }
+  static ZELM_INLINE Many splat(T x) { return x; }
   /// Widens or rounds.
   template <class U>
   explicit ZELM_INLINE Many(const Many<U, L>& from) {

@@ -57,6 +57,16 @@ ZELM_INLINE __m128d shuffle(__m128d a, __m128d b) {
   return a;
 }
 
+/// PUNPCKLDQ and PUNPCKHDQ: a0 b0 a1 b1, and a2 b2 a3 b3. UNPCKLPS does the same on one port.
+ZELM_INLINE __m128 interleave_low(__m128 a, __m128 b) {
+  __asm__("punpckldq %1, %0" : "+x"(a) : "x"(b));
+  return a;
+}
+ZELM_INLINE __m128 interleave_high(__m128 a, __m128 b) {
+  __asm__("punpckhdq %1, %0" : "+x"(a) : "x"(b));
+  return a;
+}
+
 template <class T>
 struct Pack;
 

@@ -93,13 +93,13 @@ struct Triangle {
 
   /// Objects k, ..., k + L - 1. `beside`: they are interleaved.
   template <bool beside, class View>
-  ZELM_INLINE void load(const View& view, std::ptrdiff_t k) {
-    if constexpr (beside) {
+  ZELM_INLINE void load(const View& view, std::ptrdiff_t k, int valid = L) {
+    if (beside && valid == L) {
       const auto first = view.object(k);
       ZELM_UNROLL for (int i = 0; i < N; ++i) { ZELM_UNROLL for (int j = 0; j <= i; ++j) e[i][j] = P::load(first.at(i, j)); }
     } else {
       typename View::Object objects[L];
-      view.objects(k, L, objects);
+      view.objects(k, valid, objects);
       unroll<N>([&](auto i) ZELM_INLINE_LAMBDA { load_row(objects, i); });
     }
   }
@@ -139,23 +139,22 @@ struct Triangle {
     }
     return pivot;
   }
-
-  /// L L^T x = b, in place, for B registers of right-hand sides. Their steps alternate: the chain of one alone leaves the processor
-  /// waiting, which looks only so far ahead.
-  template <int B>
-  ZELM_INLINE void substitute(P* const (&x)[B]) const {
-    const auto row = [&](int i, int from, int to, auto factor) ZELM_INLINE_LAMBDA {
-      ZELM_UNROLL for (int j = from; j < to; ++j) {
-        const P f = factor(j);
-        ZELM_UNROLL for (int b = 0; b < B; ++b) x[b][i] = x[b][i] - f * x[b][j];
-      }
-      ZELM_UNROLL for (int b = 0; b < B; ++b) x[b][i] = x[b][i] * e[i][i];
-    };
-    ZELM_UNROLL for (int i = 0; i < N; ++i) row(i, 0, i, [&](int j) ZELM_INLINE_LAMBDA { return e[i][j]; });
-    ZELM_UNROLL for (int i = N - 1; i >= 0; --i) row(i, i + 1, N, [&](int j) ZELM_INLINE_LAMBDA { return e[j][i]; });
-  }
-  ZELM_INLINE void substitute(P (&x)[N]) const { substitute<1>({x}); }
 };
+
+/// L L^T x = b, in place, for R registers of right-hand sides, a step for each in turn; factor(r, i, j) is an element of L for
+/// those of register r.
+template <class T, int N, int R, class Factor>
+ZELM_INLINE void substitute(Lanes<T, 1, N> (&x)[R], Factor factor) {
+  const auto row = [&](int i, int from, int to, auto element) ZELM_INLINE_LAMBDA {
+    ZELM_UNROLL for (int j = from; j < to; ++j) {
+      ZELM_UNROLL for (int r = 0; r < R; ++r) x[r].e[0][i] = x[r].e[0][i] - element(r, j) * x[r].e[0][j];
+    }
+    ZELM_UNROLL for (int r = 0; r < R; ++r) x[r].e[0][i] = x[r].e[0][i] * factor(r, i, i);
+  };
+  ZELM_UNROLL for (int i = 0; i < N; ++i) row(i, 0, i, [&](int r, int j) ZELM_INLINE_LAMBDA { return factor(r, i, j); });
+  ZELM_UNROLL for (int i = N - 1; i >= 0; --i)
+      row(i, i + 1, N, [&](int r, int j) ZELM_INLINE_LAMBDA { return factor(r, j, i); });
+}
 
 // Decomposition
 
@@ -305,79 +304,73 @@ ZELM_INLINE ZelStatus decompose(A a, D d, int order, int count) {
 
 // Solution
 
-/// Vectors first, ..., last - 1 one after the other, each read before it is written.
+/// One object alone.
 template <int N, class A, class B, class D>
-__attribute__((noinline)) void solve_each(A a, B b, D d, std::ptrdiff_t first, std::ptrdiff_t last) {
+__attribute__((noinline)) void solve_one(A a, B b, D d) {
   using T = typename D::T;
   using P = Pack<T>;
-  for (std::ptrdiff_t k = first; k < last; ++k) {
-    Triangle<T, N> f;
-    f.load_one(a.object(k));
-    const auto from = b.object(k);
-    const auto to = d.object(k);
-    P x[N];
-    ZELM_UNROLL for (int j = 0; j < N; ++j) x[j] = P::template load_first<1>(from.at(0, j));
-    f.substitute(x);
-    ZELM_UNROLL for (int j = 0; j < N; ++j) x[j].template store_first<1>(to.at(0, j));
-  }
+  const auto from = b.object(0);
+  const auto to = d.object(0);
+  Triangle<T, N> f;
+  f.load_one(a.object(0));
+  Lanes<T, 1, N> x[1];
+  ZELM_UNROLL for (int j = 0; j < N; ++j) x[0].e[0][j] = P::template load_first<1>(from.at(0, j));
+  substitute(x, [&](int, int i, int j) ZELM_INLINE_LAMBDA { return f.e[i][j]; });
+  ZELM_UNROLL for (int j = 0; j < N; ++j) x[0].e[0][j].template store_first<1>(to.at(0, j));
 }
 
-/// A factor for each vector.
-template <int N, bool beside, class A, class B, class D>
-void solve_lanes(A a, B b, D d, int count) {
+/// Vectors k, ... for the lanes of R registers. `factors` is a view of as many, or the triangle of the one for all.
+template <int N, int R, bool beside, class F, class B, class D>
+ZELM_INLINE void solve_block(const F& factors, const B& b, const D& d, std::ptrdiff_t k, int valid) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  std::ptrdiff_t k = 0;
-  for (; k + L <= count; k += L) {
-    Triangle<T, N> f;
-    Lanes<T, 1, N> x;
-    f.template load<beside>(a, k);
-    x.template load<beside>(b, k, L);
-    f.substitute(x.e[0]);
-    x.template store<beside>(d, k, L);
+  Lanes<T, 1, N> x[R];
+  ZELM_UNROLL for (int r = 0; r < R; ++r) x[r].template load<beside>(b, k + r * L, valid);
+  if constexpr (std::is_same_v<F, Triangle<T, N>>) {
+    substitute(x, [&](int, int i, int j) ZELM_INLINE_LAMBDA { return factors.e[i][j]; });
+  } else {
+    Triangle<T, N> f[R];
+    ZELM_UNROLL for (int r = 0; r < R; ++r) f[r].template load<beside>(factors, k + r * L, valid);
+    substitute(x, [&](int r, int i, int j) ZELM_INLINE_LAMBDA { return f[r].e[i][j]; });
   }
-  solve_each<N>(a, b, d, k, count);
+  ZELM_UNROLL for (int r = 0; r < R; ++r) x[r].template store<beside>(d, k + r * L, valid);
 }
 
-/// One factor for all vectors.
+template <int N, bool beside, class F, class B, class D>
+ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
+  constexpr int L = Pack<typename D::T>::lanes, R = kAlternating<N, D>;
+  std::ptrdiff_t k = 0;
+  for (; k + R * L <= count; k += R * L) solve_block<N, R, beside>(factors, b, d, k, L);
+  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid)
+                               ZELM_INLINE_LAMBDA { solve_block<N, 1, beside>(factors, b, d, k + more, valid); });
+}
+
+/// A factor for each vector, or one for all.
 template <int N, bool beside, class A, class B, class D>
 void solve_vectors(A a, B b, D d, int count) {
-  using T = typename D::T;
-  Triangle<T, N> f;
-  f.spread(a.object(0));
-  constexpr int L = Pack<T>::lanes;
-  std::ptrdiff_t k = 0;
-  for (; k + 2 * L <= count; k += 2 * L) {
-    Lanes<T, 1, N> x, y;
-    x.template load<beside>(b, k, L);
-    y.template load<beside>(b, k + L, L);
-    f.template substitute<2>({x.e[0], y.e[0]});
-    x.template store<beside>(d, k, L);
-    y.template store<beside>(d, k + L, L);
+  if constexpr (A::array) {
+    solve_blocks<N, beside>(a, b, d, count);
+  } else {
+    Triangle<typename D::T, N> f;
+    f.spread(a.object(0));
+    solve_blocks<N, beside>(f, b, d, count);
   }
-  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid) ZELM_INLINE_LAMBDA {
-    Lanes<T, 1, N> x;
-    x.template load<beside>(b, k + more, valid);
-    f.substitute(x.e[0]);
-    x.template store<beside>(d, k + more, valid);
-  });
 }
 
 template <int N, class A, class B, class D>
 ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int count) {
-  if constexpr (!B::array) {
-    solve_each<N>(a, b, d, 0, 1);
-  } else if constexpr (!A::array) {
-    if constexpr (can_interleave<B>) {
-      if (b.interleaved() || d.interleaved()) return solve_vectors<N, true>(a, b, d, count), zelStsOk;
-    }
-    solve_vectors<N, false>(a, b, d, count);
-  } else {
-    if constexpr (can_interleave<A>) {
-      if (a.interleaved() && b.interleaved() && d.interleaved()) return solve_lanes<N, true>(a, b, d, count), zelStsOk;
-    }
-    solve_lanes<N, false>(a, b, d, count);
+  if constexpr (!B::array) return solve_one<N>(a, b, d), zelStsOk;
+  if constexpr (can_interleave<B>) {
+    if (A::array ? a.interleaved() && b.interleaved() && d.interleaved() : b.interleaved() || d.interleaved())
+      return solve_vectors<N, true>(a, b, d, count), zelStsOk;
   }
+  if constexpr (A::array && A::plain && B::plain && D::plain) {
+    if (a.tight(N, N) && b.tight(1, N) && d.tight(1, N))
+      return solve_vectors<N, false>(a.template as_tight<N, N>(), b.template as_tight<1, N>(), d.template as_tight<1, N>(),
+                                     count),
+             zelStsOk;
+  }
+  solve_vectors<N, false>(a, b, d, count);
   return zelStsOk;
 }
 

@@ -189,11 +189,6 @@ ZELM_INLINE void substitute(P (&x)[N], Factor factor, ByPivot by_pivot) {
   }
 }
 
-/// Blocks of objects substituted in step. The operations of one block wait for each other for about 130 cycles, and those that
-/// wait fill the processor's queue before enough other blocks have begun; in step they wait less: 10 to 30 % of the time. For
-/// arrays without gaps, whose addresses take few instructions.
-inline constexpr int kBlocksInStep = 4;
-
 /// Every vector with a matrix of its own, or one vector: division by the pivots.
 template <int N, bool beside, class A, class B, class D>
 void solve_each(A a, const int* index, B b, D d, int count) {
@@ -226,9 +221,8 @@ void solve_each(A a, const int* index, B b, D d, int count) {
   };
   std::ptrdiff_t k = 0;
   if constexpr (known_tight<A> && known_tight<B> && known_tight<D>) {
-    constexpr int in_step = kBlocksInStep * L;
-    for (; k + in_step <= count; k += in_step)
-      solve_blocks(k, std::integral_constant<int, kBlocksInStep>{}, std::integral_constant<int, L>{});
+    constexpr int R = kAlternating<N, D>;
+    for (; k + R * L <= count; k += R * L) solve_blocks(k, std::integral_constant<int, R>{}, std::integral_constant<int, L>{});
   }
   for_blocks<L>(int(count - k), [=](std::ptrdiff_t from, auto valid)
                                     ZELM_INLINE_LAMBDA { solve_blocks(k + from, std::integral_constant<int, 1>{}, valid); });

@@ -10,6 +10,7 @@
 #include <limits>
 
 #include "frame/lanes.hpp"
+#include "simd/many.hpp"
 #include "zelm_types.h"
 
 namespace zelm::solvers::qr {
@@ -361,58 +362,114 @@ void solve_one(const A& a, T* buffer, const B& b, const D& d, int width, int hei
   for (int j = 0; j < width; ++j) store(d.at(0, j), load(buffer + j));
 }
 
-/// Right-hand sides k, ..., k + valid - 1, by the factors m.
-template <int N, bool beside, class M, class Scale, class B, class D>
-ZELM_INLINE void solve_block(const M& m, Scale beta, const B& b, const D& d, int width, int height, std::ptrdiff_t k,
+/// Numbers in an array.
+template <class V>
+struct Numbers {
+  V* x;
+  ZELM_INLINE V operator()(int i) const { return x[i]; }
+  ZELM_INLINE void set(int i, V value) const { x[i] = value; }
+};
+
+/// The one matrix of a call in all lanes, and its scales.
+template <class T, int N>
+struct Factors {
+  Lanes<T, N, N> lanes;
+  Pack<T> beta[N - 1];
+};
+
+/// Known orders: right-hand sides k, ... for the lanes of B registers. `factors` is a view of as many matrices, or the one of all.
+template <int N, int B, bool beside, class F, class W, class D>
+ZELM_INLINE void solve_block(const F& factors, const W& b, const D& d, std::ptrdiff_t k, int valid) {
+  using T = typename D::T;
+  constexpr int L = Pack<T>::lanes;
+  using V = Many<T, B * L>;
+  Lanes<T, 1, N> y[B];
+  V x[N];
+  ZELM_UNROLL for (int q = 0; q < B; ++q) y[q].template load<beside>(b, k + q * L, valid);
+  ZELM_UNROLL for (int i = 0; i < N; ++i) x[i] = V::each([&](int q) ZELM_INLINE_LAMBDA { return y[q].e[0][i]; });
+  if constexpr (std::is_same_v<F, Factors<T, N>>) {
+    const auto m = [&](int i, int j)
+                       ZELM_INLINE_LAMBDA { return V::each([&](int) ZELM_INLINE_LAMBDA { return factors.lanes.e[i][j]; }); };
+    const auto beta = [&](int r)
+                          ZELM_INLINE_LAMBDA { return V::each([&](int) ZELM_INLINE_LAMBDA { return factors.beta[r]; }); };
+    solve_in_place<N, V>(Numbers<V>{x}, m, beta, N, N);
+  } else {
+    Lanes<T, N, N> f[B];
+    ZELM_UNROLL for (int q = 0; q < B; ++q) f[q].template load<beside>(factors, k + q * L, valid);
+    const auto m = [&](int i, int j)
+                       ZELM_INLINE_LAMBDA { return V::each([&](int q) ZELM_INLINE_LAMBDA { return f[q].e[i][j]; }); };
+    const auto beta = [&](int r) ZELM_INLINE_LAMBDA { return scale<true, V>(Column<decltype(m)>{m, r}, r, N); };
+    solve_in_place<N, V>(Numbers<V>{x}, m, beta, N, N);
+  }
+  ZELM_UNROLL for (int q = 0; q < B; ++q) {
+    ZELM_UNROLL for (int i = 0; i < N; ++i) y[q].e[0][i] = x[i].part[q];
+    y[q].template store<beside>(d, k + q * L, valid);
+  }
+}
+
+template <int N, bool beside, class F, class W, class D>
+ZELM_INLINE void solve_blocks(const F& factors, W b, D d, int count) {
+  constexpr int L = Pack<typename D::T>::lanes, B = kAlternating<N, D>;
+  std::ptrdiff_t k = 0;
+  if constexpr (W::array)
+    for (; k + B * L <= count; k += B * L) solve_block<N, B, beside>(factors, b, d, k, L);
+  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid)
+                               ZELM_INLINE_LAMBDA { solve_block<N, 1, beside>(factors, b, d, k + more, valid); });
+}
+
+template <int N, bool beside, class A, class W, class D>
+void solve_known(A a, W b, D d, int count) {
+  if constexpr (A::array || !W::array) {
+    solve_blocks<N, beside>(a, b, d, count);
+  } else {
+    using T = typename D::T;
+    Factors<T, N> f;
+    f.lanes.splat(a.object(0));
+    const auto m = [&](int i, int j) { return f.lanes.e[i][j]; };
+    for (int r = 0; r < N - 1; ++r) f.beta[r] = scale<false, Pack<T>>(Column<decltype(m)>{m, r}, r, N);
+    solve_blocks<N, beside>(f, b, d, count);
+  }
+}
+
+/// Any shape that fits: right-hand sides k, ..., k + valid - 1, by the factors m.
+template <bool beside, class M, class Scale, class B, class D>
+ZELM_INLINE void solve_shape(const M& m, Scale beta, const B& b, const D& d, int width, int height, std::ptrdiff_t k,
                              int valid) {
   using T = typename D::T;
-  Tile<T, (N > 0), N> y(1, height);
+  Tile<T, 0, 0> y(1, height);
   y.template load<beside>(b, k, valid);
-  solve_in_place<N, Pack<T>>(Registers<Pack<T>>{y.elements()}, m, beta, N > 0 ? N : width, N > 0 ? N : height);
+  solve_in_place<0, Pack<T>>(Registers<Pack<T>>{y.elements()}, m, beta, width, height);
   y.width = width;
   y.template store<beside>(d, k, valid);
 }
 
-/// Every right-hand side with factors of its own, or one.
-template <int N, bool beside, class A, class B, class D>
-void solve_each(A a, B b, D d, int width, int height, int count) {
+template <bool beside, class A, class B, class D>
+void solve_any(A a, B b, D d, int width, int height, int count) {
   using T = typename D::T;
   using P = Pack<T>;
-  for_blocks<P::lanes>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
-    Tile<T, N, N> f(height, width);
-    f.template load<beside>(a, k, valid);
-    const auto m = f.elements();
-    const auto beta = [&](int r) ZELM_INLINE_LAMBDA { return scale<(N > 0), P>(Column<InLanes<P>>{m, r}, r, f.rows()); };
-    solve_block<N, beside>(m, beta, b, d, width, height, k, valid);
-  });
-}
-
-/// One factor for all.
-template <int N, bool beside, class A, class B, class D>
-void solve_vectors(A a, B b, D d, int width, int height, int count) {
-  using T = typename D::T;
-  using P = Pack<T>;
-  Tile<T, N, N> f(height, width);
-  f.spread(a.object(0));
-  P betas[N > 0 ? N : kMost];
+  Tile<T, 0, 0> f(height, width);
   const auto m = f.elements();
-  for (int r = 0; r < reflections(width, height); ++r) betas[r] = scale<false, P>(Column<InLanes<P>>{m, r}, r, height);
-  const auto block = [=](const auto& factors, const P* beta, std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
-    solve_block<N, beside>(
-        factors.elements(), [=](int r) ZELM_INLINE_LAMBDA { return beta[r]; }, b, d, width, height, k, valid);
-  };
-  // Known sizes are few enough to be copied for the last block, and then stay in registers as far as there are any.
-  if constexpr (N > 0)
-    for_blocks<P::lanes>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA { block(f, betas, k, valid); });
-  else
-    for_blocks<P::lanes>(count,
-                         [=, &f, &betas](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA { block(f, betas, k, valid); });
+  const auto beta = [&](int r) ZELM_INLINE_LAMBDA { return scale<false, P>(Column<InLanes<P>>{m, r}, r, height); };
+  if constexpr (!A::array && B::array) {
+    P betas[kMost];
+    f.spread(a.object(0));
+    for (int r = 0; r < reflections(width, height); ++r) betas[r] = beta(r);
+    for_blocks<P::lanes>(count, [&](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
+      solve_shape<beside>(
+          m, [&](int r) ZELM_INLINE_LAMBDA { return betas[r]; }, b, d, width, height, k, valid);
+    });
+  } else {
+    for_blocks<P::lanes>(count, [&](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
+      f.template load<beside>(a, k, valid);
+      solve_shape<beside>(m, beta, b, d, width, height, k, valid);
+    });
+  }
 }
 
 template <int N, bool beside, class A, class B, class D>
 ZELM_INLINE ZelStatus solve_lanes(A a, B b, D d, int width, int height, int count) {
-  if constexpr (!A::array && B::array) solve_vectors<N, beside>(a, b, d, width, height, count);
-  else solve_each<N, beside>(a, b, d, width, height, count);
+  if constexpr (N > 0) solve_known<N, beside>(a, b, d, count);
+  else solve_any<beside>(a, b, d, width, height, count);
   return zelStsOk;
 }
 
@@ -421,6 +478,11 @@ ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int width, int height, int coun
   if constexpr (can_interleave<B>)
     if ((!A::array || a.interleaved()) && b.interleaved() && d.interleaved())
       return solve_lanes<N, true>(a, b, d, width, height, count);
+  if constexpr (N > 0 && A::plain && A::array && B::plain && D::plain) {
+    if (a.tight(N, N) && b.tight(1, N) && d.tight(1, N))
+      return solve_lanes<N, false>(a.template as_tight<N, N>(), b.template as_tight<1, N>(), d.template as_tight<1, N>(), width,
+                                   height, count);
+  }
   return solve_lanes<N, false>(a, b, d, width, height, count);
 }
 
