@@ -167,13 +167,11 @@ ZELM_INLINE void for_blocks(std::ptrdiff_t count, Body body) {
   if (k < count) last_block(body, k, int(count - k));
 }
 
-/// Registers of objects of order N whose steps alternate where one formula is a long chain: alone it leaves the processor waiting,
-/// which looks only so far ahead. Up to 1.5 times as fast as one register; more registers of larger objects than these only fill
-/// the stack.
-template <int N, class View>
-inline constexpr int kAlternating = !View::plain ? 2
-                                    : N < 5      ? 4
-                                                 : 3;
+/// Systems of order N are solved in so many registers of objects at once, a step of each in turn: the chain of one alone leaves the
+/// processor waiting, which looks only so far ahead. Four are up to 1.5 times as fast as one, but larger objects then only fill the
+/// stack. Arrays with gaps spend their time elsewhere; `shared`: on one matrix for all, which need not be loaded.
+template <int N, class View, bool shared>
+inline constexpr int kAlternating = is_tight<View> ? (N < 5 ? 4 : 3) : (shared ? 2 : 1);
 
 /// What a loop over arrays knows of them.
 enum class Memory {
@@ -217,7 +215,7 @@ struct Lanes {
     }
     typename View::Object objects[L];
     view.objects(k, valid, objects);
-    if constexpr (known_tight<View> && R > 1) {
+    if constexpr (is_tight<View> && R > 1) {
       load_run(objects);
     } else {
       ZELM_UNROLL for (int i = 0; i < R; ++i) load_row(e[i], objects, [&](int) { return i; });

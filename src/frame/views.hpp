@@ -156,11 +156,18 @@ struct StridedView {
   ZELM_INLINE bool interleaved() const { return array && stride0 == Bytes(sizeof(T)); }
 };
 
-/// True of what as_tight gives.
+/// True of the views that as_tight gives.
 template <class View>
-inline constexpr bool known_tight = false;
+inline constexpr bool is_tight = false;
 template <class Element, int rows, int columns>
-inline constexpr bool known_tight<StridedView<Element, true, true, rows, columns>> = columns > 0;
+inline constexpr bool is_tight<StridedView<Element, true, true, rows, columns>> = columns > 0;
+
+/// As as_tight, which a single object does not need.
+template <int R, int C, class View>
+ZELM_INLINE auto tight_array(const View& view) {
+  if constexpr (View::array) return view.template as_tight<R, C>();
+  else return view;
+}
 
 template <class Element, bool adjacent>
 struct ListView {

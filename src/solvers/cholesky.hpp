@@ -338,7 +338,7 @@ ZELM_INLINE void solve_block(const F& factors, const B& b, const D& d, std::ptrd
 
 template <int N, bool beside, class F, class B, class D>
 ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
-  constexpr int L = Pack<typename D::T>::lanes, R = kAlternating<N, D>;
+  constexpr int L = Pack<typename D::T>::lanes, R = kAlternating<N, D, std::is_same_v<F, Triangle<typename D::T, N>>>;
   std::ptrdiff_t k = 0;
   for (; k + R * L <= count; k += R * L) solve_block<N, R, beside>(factors, b, d, k, L);
   for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid)
@@ -364,11 +364,9 @@ ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int count) {
     if (A::array ? a.interleaved() && b.interleaved() && d.interleaved() : b.interleaved() || d.interleaved())
       return solve_vectors<N, true>(a, b, d, count), zelStsOk;
   }
-  if constexpr (A::array && A::plain && B::plain && D::plain) {
-    if (a.tight(N, N) && b.tight(1, N) && d.tight(1, N))
-      return solve_vectors<N, false>(a.template as_tight<N, N>(), b.template as_tight<1, N>(), d.template as_tight<1, N>(),
-                                     count),
-             zelStsOk;
+  if constexpr (A::plain && B::plain && D::plain) {
+    if ((!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N))
+      return solve_vectors<N, false>(tight_array<N, N>(a), tight_array<1, N>(b), tight_array<1, N>(d), count), zelStsOk;
   }
   solve_vectors<N, false>(a, b, d, count);
   return zelStsOk;

@@ -220,10 +220,9 @@ void solve_each(A a, const int* index, B b, D d, int count) {
     }
   };
   std::ptrdiff_t k = 0;
-  if constexpr (known_tight<A> && known_tight<B> && known_tight<D>) {
-    constexpr int R = kAlternating<N, D>;
+  constexpr int R = kAlternating<N, D, false>;
+  if constexpr (R > 1)
     for (; k + R * L <= count; k += R * L) solve_blocks(k, std::integral_constant<int, R>{}, std::integral_constant<int, L>{});
-  }
   for_blocks<L>(int(count - k), [=](std::ptrdiff_t from, auto valid)
                                     ZELM_INLINE_LAMBDA { solve_blocks(k + from, std::integral_constant<int, 1>{}, valid); });
 }
@@ -358,8 +357,7 @@ ZELM_INLINE ZelStatus solve_small(const A& a, const int* index, const B& b, cons
   }
   if constexpr (all_strided<A, B, D>) {
     if (A::array && B::array && a.tight(N, N) && b.tight(1, N) && d.tight(1, N)) {
-      solve_fixed<N, false>(a.template as_tight<N, N>(), index, b.template as_tight<1, N>(), d.template as_tight<1, N>(),
-                            count);
+      solve_fixed<N, false>(tight_array<N, N>(a), index, tight_array<1, N>(b), tight_array<1, N>(d), count);
       return zelStsOk;
     }
   }

@@ -409,7 +409,7 @@ ZELM_INLINE void solve_block(const F& factors, const W& b, const D& d, std::ptrd
 
 template <int N, bool beside, class F, class W, class D>
 ZELM_INLINE void solve_blocks(const F& factors, W b, D d, int count) {
-  constexpr int L = Pack<typename D::T>::lanes, B = kAlternating<N, D>;
+  constexpr int L = Pack<typename D::T>::lanes, B = kAlternating<N, D, std::is_same_v<F, Factors<typename D::T, N>>>;
   std::ptrdiff_t k = 0;
   if constexpr (W::array)
     for (; k + B * L <= count; k += B * L) solve_block<N, B, beside>(factors, b, d, k, L);
@@ -478,10 +478,9 @@ ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int width, int height, int coun
   if constexpr (can_interleave<B>)
     if ((!A::array || a.interleaved()) && b.interleaved() && d.interleaved())
       return solve_lanes<N, true>(a, b, d, width, height, count);
-  if constexpr (N > 0 && A::plain && A::array && B::plain && D::plain) {
-    if (a.tight(N, N) && b.tight(1, N) && d.tight(1, N))
-      return solve_lanes<N, false>(a.template as_tight<N, N>(), b.template as_tight<1, N>(), d.template as_tight<1, N>(), width,
-                                   height, count);
+  if constexpr (N > 0 && A::plain && B::array && B::plain && D::plain) {
+    if ((!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N))
+      return solve_lanes<N, false>(tight_array<N, N>(a), tight_array<1, N>(b), tight_array<1, N>(d), width, height, count);
   }
   return solve_lanes<N, false>(a, b, d, width, height, count);
 }
