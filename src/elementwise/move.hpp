@@ -13,13 +13,6 @@
 
 namespace zelm::elementwise::move {
 
-struct First {
-  template <class V>
-  ZELM_INLINE V operator()(V a, V) const {
-    return a;
-  }
-};
-
 /// A long run of elements, left to the C library, which knows the processor's fastest way. Where it would differ from the copy
 /// of one element after the other it is that copy, so that a run across rows and objects keeps their order.
 template <class T>

@@ -135,6 +135,14 @@ __attribute__((noinline)) void run(Op op, A a, B b, T* d, std::ptrdiff_t n) {
   else run_packs(op, a, b, d, n);
 }
 
+/// For run_packs: a copy of its first operand.
+struct First {
+  template <class V>
+  ZELM_INLINE V operator()(V a, V) const {
+    return a;
+  }
+};
+
 /// A single object, repeated until its copies fill whole registers: what it combines with is then one run of memory.
 template <class T>
 struct Pattern {
@@ -159,8 +167,7 @@ struct Pattern {
     T* filled = elements;
     for (int c = 0; c < copies; ++c) {
       for (int i = 0; i < rows; ++i) {
-        if constexpr (Object::plain)
-          run_packs([](auto x, auto) { return x; }, along_row(object, i), Same<T>{T()}, filled, columns), filled += columns;
+        if constexpr (Object::plain) run_packs(First{}, along_row(object, i), Same<T>{T()}, filled, columns), filled += columns;
         else ZELM_AS_IT_STANDS for (int j = 0; j < columns; ++j)* filled++ = object.element(i, j);
       }
     }

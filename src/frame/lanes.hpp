@@ -58,7 +58,7 @@ ZELM_INLINE void lanes_to_rows(const Pack<float> (&e)[N], Address at) {
       const auto place = reinterpret_cast<__m64*>(row + full);
       l % 2 == 0 ? _mm_storel_pi(place, two) : _mm_storeh_pi(place, two);
     }
-    if constexpr (full + pairs < N) e[N - 1].template store_lane<l>(row + (N - 1));
+    if constexpr (N % 2) e[N - 1].template store_lane<l>(row + (N - 1));
   });
 }
 
