@@ -17,19 +17,19 @@ ZELM_INLINE void copy_out(const T* rows, const Object& dst, int n) {
     for (int j = 0; j < n; ++j) store(dst.at(i, j), load(rows + std::ptrdiff_t(j) * n + i));
 }
 
-/// Whole blocks, as many as there are, until one holds an object that fails: what is left is done one by one.
-///   done(k, l, block) takes object k out of lane l; false ends the call
+/// Blocks, until one holds an object that fails. What is left is done one by one, and so is a rest that would leave most lanes idle.
+///   done(k, l, block, n) takes object k out of lane l; false ends the call
 template <int order, bool vectors, class T, class A, class Done>
 ZELM_INLINE int solve_blocks(const A& a, int n, int count, Done done) {
   if constexpr (order > 0) n = order;
   Block<T, order, vectors> block;
   int k = 0;
-  while (count - k > 1) {
-    const int valid = std::min(count - k, kTogether<T>);
+  while (count - k > block.lanes / 3) {
+    const int valid = std::min(count - k, block.lanes);
     copy_in(a, k, valid, block.h, n);
     if (!solve_together(block, n)) break;
     for (int l = 0; l < valid; ++l, ++k)
-      if (!done(k, l, block)) return count;
+      if (!done(k, l, block, n)) return count;
   }
   return k;
 }
@@ -46,13 +46,11 @@ ZELM_INLINE int solve_some(const A& a, int n, int count, Done done) {
 template <class A, class T>
 ZelStatus values(A a, T* re, T* im, int n, int count, void* buffer) {
   T* const scratch = static_cast<T*>(buffer);
-  std::ptrdiff_t k = solve_some<false, T>(a, n, count, [=](std::ptrdiff_t at, int l, const auto& block) {
-    for (int i = 0; i < n; ++i) {
-      store(re + at * n + i, load_lane(block.re + i, l));
-      store(im + at * n + i, load_lane(block.im + i, l));
-    }
-    return true;
-  });
+  std::ptrdiff_t k =
+      solve_some<false, T>(a, n, count, [=](std::ptrdiff_t at, int l, const auto& block, int order) ZELM_INLINE_LAMBDA {
+        block.store_values(l, re + at * order, im + at * order, order);
+        return true;
+      });
   for (; k < count; ++k) {
     copy_in(a.object(k), scratch, n);
     if (const ZelStatus status = values_of_one(scratch, re + k * n, im + k * n, n)) return status;
@@ -73,17 +71,16 @@ ZELM_INLINE ZelStatus vectors(const A& a, T* re, T* im, int n, int count, void* 
     ((copy_out(rows, dst.object(k), n), rows += std::ptrdiff_t(n) * n), ...);
     return true;
   };
-  std::ptrdiff_t k = solve_some<true, T>(a, n, count, [&](std::ptrdiff_t at, int l, const auto& block) {
-    for (int e = 0; e < n * n; ++e) {
-      store(scratch + e, load_lane(block.h + e, l));
-      store(found + e, load_lane(block.q + e, l));
-    }
-    for (int i = 0; i < n; ++i) {
-      store(re + at * n + i, load_lane(block.re + i, l));
-      store(im + at * n + i, load_lane(block.im + i, l));
-    }
-    return finish(at, vectors_of_form(scratch, re + at * n, im + at * n, n, sides));
-  });
+  std::ptrdiff_t k =
+      solve_some<true, T>(a, n, count, [&](std::ptrdiff_t at, int l, const auto& block, int order) ZELM_INLINE_LAMBDA {
+        T *const at_re = re + at * order, *const at_im = im + at * order;
+        block.store_values(l, at_re, at_im, order);
+        for (int e = 0; e < order * order; ++e) {
+          store(scratch + e, load_lane(block.h + e, l));
+          store(found + e, load_lane(block.q + e, l));
+        }
+        return finish(at, vectors_of_form(scratch, at_re, at_im, n, sides));
+      });
   for (; k < count; ++k) {
     copy_in(a.object(k), scratch, n);
     if (!finish(k, vectors_of_one(scratch, re + k * n, im + k * n, n, sides))) break;

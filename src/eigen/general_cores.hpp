@@ -27,18 +27,23 @@ Outcome vectors_of_one(T* buffer, T* re, T* im, int n, int sides);
 template <class T>
 Outcome vectors_of_form(T* buffer, const T* re, const T* im, int n, int sides);
 
-/// Matrices that are computed together.
-template <class T>
-inline constexpr int kTogether = sizeof(T) == 4 ? 8 : 4;
-
-/// One matrix in each lane. Order 0 stands for any up to kLargestTogether.
+/// One matrix in each lane. Order 0 stands for any up to kLargestTogether. Many lanes hide the latency of divisions and roots, but
+/// wait for each other; the registers of a large order wait for memory anyway.
 template <class T, int order, bool vectors>
 struct Block {
   static constexpr int largest = order ? order : kLargestTogether;
-  using S = Many<T, kTogether<T>>;
+  static constexpr int lanes = (sizeof(T) == 4 ? 8 : 4) * (order ? 2 : 1);
+  using S = Many<T, lanes>;
   S h[largest * largest];                // the source row by row without a gap; then its Schur form, column by column
   S q[vectors ? largest * largest : 1];  // column by column
   S re[largest], im[largest];
+
+  ZELM_INLINE void store_values(int l, T* to_re, T* to_im, int n) const {
+    for (int i = 0; i < n; ++i) {
+      store(to_re + i, load_lane(re + i, l));
+      store(to_im + i, load_lane(im + i, l));
+    }
+  }
 };
 
 /// Eigenvalues, or the whole Schur form. False if one of the matrices takes too many sweeps: then they must be done one by one.
