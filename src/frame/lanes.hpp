@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "frame/views.hpp"
+#include "simd/many.hpp"
 
 namespace zelm {
 
@@ -40,25 +41,25 @@ ZELM_INLINE void rows_to_lanes(Pack<double> (&e)[N], Address at) {
 template <int N, class Address>
 ZELM_INLINE void lanes_to_rows(const Pack<float> (&e)[N], Address at) {
   using P = Pack<float>;
-  constexpr int tiles = N / 4, full = 4 * tiles, pairs = (N - full) / 2 * 2;
-  P tile[tiles + 1][4], low, high;
+  constexpr int tiles = N / 4, full = 4 * tiles;
+  P tile[tiles + 1][4];
+  __m128 low, high;
   ZELM_UNROLL for (int t = 0; t < tiles; ++t) {
     ZELM_UNROLL for (int l = 0; l < 4; ++l) tile[t][l] = e[4 * t + l];
     transpose(tile[t]);
   }
-  if constexpr (pairs > 0) {
-    low.raw = interleave_low(e[full].raw, e[full + 1].raw);
-    high.raw = interleave_high(e[full].raw, e[full + 1].raw);
+  if constexpr (N % 4 >= 2) {
+    low = interleave_low(e[full].raw, e[full + 1].raw);
+    high = interleave_high(e[full].raw, e[full + 1].raw);
   }
+  const P last = e[N - 1], even_lanes{shuffled<0xa0>(last.raw)};
   unroll<4>([&](auto l) ZELM_INLINE_LAMBDA {
     float* const row = at(l);
+    // A last element without a partner is the second of two, the first of which is then written again: EXTRACTPS takes a shuffle.
+    if constexpr (N == 1) last.template store_lane<l>(row);
+    else if constexpr (N % 2) (l % 2 ? last : even_lanes).template store_half<l / 2>(row + (N - 2));
     ZELM_UNROLL for (int t = 0; t < tiles; ++t) tile[t][l].store(row + 4 * t);
-    if constexpr (pairs > 0) {
-      const __m128 two = l < 2 ? low.raw : high.raw;
-      const auto place = reinterpret_cast<__m64*>(row + full);
-      l % 2 == 0 ? _mm_storel_pi(place, two) : _mm_storeh_pi(place, two);
-    }
-    if constexpr (N % 2) e[N - 1].template store_lane<l>(row + (N - 1));
+    if constexpr (N % 4 >= 2) P{l < 2 ? low : high}.template store_half<l % 2>(row + full);
   });
 }
 
@@ -88,18 +89,30 @@ ZELM_INLINE void packed_to_lanes(Pack<double> (&e)[3], const Pack<double> (&run)
   e[1].raw = shuffle<1>(a, c);
   e[2].raw = shuffle<2>(b, c);
 }
-template <class T>
-ZELM_INLINE void packed_to_lanes(Pack<T> (&e)[3], const T* p) {
-  constexpr int L = Pack<T>::lanes;
-  packed_to_lanes(e, {Pack<T>::load(p), Pack<T>::load(p + L), Pack<T>::load(p + 2 * L)});
+/// From memory: two loads and a shuffle for each.
+ZELM_INLINE void packed_to_lanes(Pack<float> (&e)[3], const float* p) {
+  ZELM_UNROLL for (int j = 0; j < 3; ++j) e[j].raw = shuffle<0xcc>(_mm_loadu_ps(p + j), _mm_loadu_ps(p + 6 + j));
+}
+ZELM_INLINE void packed_to_lanes(Pack<double> (&e)[3], const double* p) {
+  packed_to_lanes(e, {Pack<double>::load(p), Pack<double>::load(p + 2), Pack<double>::load(p + 4)});
 }
 template <bool streamed = false>
 ZELM_INLINE void lanes_to_packed(const Pack<float> (&e)[3], float* p) {
   const __m128 x = e[0].raw, y = e[1].raw, z = e[2].raw;
-  const __m128 x0x2y0y2 = shuffle<0x88>(x, y), y1y3z1z3 = shuffle<0xdd>(y, z), z0z2x1x3 = shuffle<0xd8>(z, x);
-  put<streamed>(Pack<float>{shuffle<0x88>(x0x2y0y2, z0z2x1x3)}, p);
-  put<streamed>(Pack<float>{shuffle<0xd8>(y1y3z1z3, x0x2y0y2)}, p + 4);
-  put<streamed>(Pack<float>{shuffle<0xdd>(z0z2x1x3, y1y3z1z3)}, p + 8);
+  if constexpr (streamed) {
+    const __m128 x0x2y0y2 = shuffle<0x88>(x, y), y1y3z1z3 = shuffle<0xdd>(y, z), z0z2x1x3 = shuffle<0xd8>(z, x);
+    Pack<float>{shuffle<0x88>(x0x2y0y2, z0z2x1x3)}.stream(p);
+    Pack<float>{shuffle<0xd8>(y1y3z1z3, x0x2y0y2)}.stream(p + 4);
+    Pack<float>{shuffle<0xdd>(z0z2x1x3, y1y3z1z3)}.stream(p + 8);
+  } else {  // z0 and z1, z2 and z3 in their places with anything between, which is then written again: two shuffles less
+    Pack<float>{shuffled<0x40>(z)}.store(p + 2);
+    Pack<float>{shuffled<0xea>(z)}.store(p + 8);
+    const Pack<float> low{interleave_low(x, y)}, high{interleave_high(x, y)};
+    low.store_half<0>(p);
+    low.store_half<1>(p + 3);
+    high.store_half<0>(p + 6);
+    high.store_half<1>(p + 9);
+  }
 }
 ZELM_INLINE void lanes_to_packed(const Pack<double> (&e)[3], double* p) {
   const __m128d x = e[0].raw, y = e[1].raw, z = e[2].raw;
@@ -167,12 +180,6 @@ ZELM_INLINE void for_blocks(std::ptrdiff_t count, Body body) {
   if (k < count) last_block(body, k, int(count - k));
 }
 
-/// Systems of order N are solved in so many registers of objects at once, a step of each in turn: the chain of one alone leaves the
-/// processor waiting, which looks only so far ahead. Four are up to 1.5 times as fast as one, but larger objects then only fill the
-/// stack. Arrays with gaps spend their time elsewhere; `shared`: on one matrix for all, which need not be loaded.
-template <int N, class View, bool shared>
-inline constexpr int kAlternating = is_tight<View> ? (N < 5 ? 4 : 3) : (shared ? 2 : 1);
-
 /// What a loop over arrays knows of them.
 enum class Memory {
   rows,  // nothing: objects are taken row by row
@@ -235,7 +242,13 @@ struct Lanes {
     }
     typename View::Object objects[L];
     view.objects(k, L, objects);
-    ZELM_UNROLL for (int i = 0; i < R; ++i) store_row(e[i], objects, [&](int) { return i; });
+    ZELM_UNROLL for (int i = 0; i < R; ++i) {
+      if constexpr (sizeof(T) == 8 && (R == 1 || C % 2 == 0)) {  // halves take no shuffle: up to 14 % of an inverse of order 4
+        ZELM_UNROLL for (int j = 0; j < C; ++j) e[i][j].template scatter<L>([&](int l) { return objects[l].at(i, j); });
+      } else {
+        store_row(e[i], objects, [&](int) { return i; });
+      }
+    }
   }
 
   /// A full block.
@@ -297,5 +310,39 @@ struct Lanes {
     }
   }
 };
+
+/// Systems of order N are solved in so many registers of objects at once, a step of each in turn: the chain of one alone leaves the
+/// processor waiting, which looks only so far ahead. Four are up to 1.5 times as fast as one, but larger objects then only fill the
+/// stack. Arrays with gaps spend their time elsewhere; `shared`: on one matrix for all, which need not be loaded.
+template <int N, class View, bool shared>
+inline constexpr int kAlternating = is_tight<View> ? (N < 5 ? 4 : 3) : (shared ? 2 : 1);
+
+/// As for_blocks, but body(k, registers, valid) takes R registers of objects at a time as long as there are so many, and then one.
+template <int R, int L, class Body>
+ZELM_INLINE void for_alternating(std::ptrdiff_t count, Body body) {
+  std::ptrdiff_t k = 0;
+  if constexpr (R > 1)
+    for (; k + R * L <= count; k += R * L) body(k, std::integral_constant<int, R>{}, std::integral_constant<int, L>{});
+  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid)
+                               ZELM_INLINE_LAMBDA { body(k + more, std::integral_constant<int, 1>{}, valid); });
+}
+
+/// Vectors k, ... of N elements, in as many registers as Many has; `valid` objects in each.
+template <bool beside, class T, int M, int N, class View>
+ZELM_INLINE void load_vectors(Many<T, M> (&x)[N], const View& view, std::ptrdiff_t k, int valid) {
+  ZELM_UNROLL for (int q = 0; q < Many<T, M>::packs; ++q) {
+    Lanes<T, 1, N> part;
+    part.template load<beside>(view, k + q * part.L, valid);
+    ZELM_UNROLL for (int i = 0; i < N; ++i) x[i].part[q] = part.e[0][i];
+  }
+}
+template <bool beside, class T, int M, int N, class View>
+ZELM_INLINE void store_vectors(const Many<T, M> (&x)[N], const View& view, std::ptrdiff_t k, int valid) {
+  ZELM_UNROLL for (int q = 0; q < Many<T, M>::packs; ++q) {
+    Lanes<T, 1, N> part;
+    ZELM_UNROLL for (int i = 0; i < N; ++i) part.e[0][i] = x[i].part[q];
+    part.template store<beside>(view, k + q * part.L, valid);
+  }
+}
 
 }  // namespace zelm

@@ -20,6 +20,8 @@ struct Many {
   /// The same number in all lanes.
   ZELM_INLINE Many(T x) { ZELM_UNROLL for (int q = 0; q < packs; ++q) part[q] = P::splat(x); }
   static ZELM_INLINE Many splat(T x) { return x; }
+  /// The same register in all places.
+  explicit ZELM_INLINE Many(P x) { ZELM_UNROLL for (int q = 0; q < packs; ++q) part[q] = x; }
   /// Widens or rounds.
   template <class U>
   explicit ZELM_INLINE Many(const Many<U, L>& from) {
@@ -66,6 +68,16 @@ struct Many {
     return each([&](int q) { return a.part[q] / b.part[q]; });
   }
 };
+
+/// a - b c. Of many numbers register by register: else the products of all wait in registers of their own.
+template <class V>
+ZELM_INLINE V less_product(const V& a, const V& b, const V& c) {
+  return a - b * c;
+}
+template <class T, int L>
+ZELM_INLINE Many<T, L> less_product(const Many<T, L>& a, const Many<T, L>& b, const Many<T, L>& c) {
+  return Many<T, L>::each([&](int q) { return a.part[q] - b.part[q] * c.part[q]; });
+}
 
 template <class V>
 struct NumberOf {

@@ -121,6 +121,12 @@ struct Pack<float> {
     else if constexpr (n == 3) return {_mm_insert_ps(gather<2>(at).raw, _mm_load_ss(at(2)), 0x20)};
     else return {shuffle<0x88>(shuffle<0>(first, _mm_load_ss(at(1))), shuffle<0>(_mm_load_ss(at(2)), _mm_load_ss(at(3))))};
   }
+  /// Elements 0 and 1, or 2 and 3.
+  template <int half>
+  ZELM_INLINE void store_half(float* p) const {
+    if constexpr (half == 0) _mm_storel_pi(reinterpret_cast<__m64*>(p), raw);
+    else _mm_storeh_pi(reinterpret_cast<__m64*>(p), raw);
+  }
   template <int lane>
   ZELM_INLINE void store_lane(float* p) const {
     if constexpr (lane == 0) _mm_store_ss(p, raw);

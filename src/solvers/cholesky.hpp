@@ -141,19 +141,17 @@ struct Triangle {
   }
 };
 
-/// L L^T x = b, in place, for R registers of right-hand sides, a step for each in turn; factor(r, i, j) is an element of L for
-/// those of register r.
-template <class T, int N, int R, class Factor>
-ZELM_INLINE void substitute(Lanes<T, 1, N> (&x)[R], Factor factor) {
-  const auto row = [&](int i, int from, int to, auto element) ZELM_INLINE_LAMBDA {
-    ZELM_UNROLL for (int j = from; j < to; ++j) {
-      ZELM_UNROLL for (int r = 0; r < R; ++r) x[r].e[0][i] = x[r].e[0][i] - element(r, j) * x[r].e[0][j];
-    }
-    ZELM_UNROLL for (int r = 0; r < R; ++r) x[r].e[0][i] = x[r].e[0][i] * factor(r, i, i);
-  };
-  ZELM_UNROLL for (int i = 0; i < N; ++i) row(i, 0, i, [&](int r, int j) ZELM_INLINE_LAMBDA { return factor(r, i, j); });
-  ZELM_UNROLL for (int i = N - 1; i >= 0; --i)
-      row(i, i + 1, N, [&](int r, int j) ZELM_INLINE_LAMBDA { return factor(r, j, i); });
+/// L L^T x = b, in place; factor(i, j) is an element of L.
+template <int N, class V, class Factor>
+ZELM_INLINE void substitute(V (&x)[N], Factor factor) {
+  ZELM_UNROLL for (int i = 0; i < N; ++i) {
+    ZELM_UNROLL for (int j = 0; j < i; ++j) x[i] = less_product(x[i], factor(i, j), x[j]);
+    x[i] = x[i] * factor(i, i);
+  }
+  ZELM_UNROLL for (int i = N - 1; i >= 0; --i) {
+    ZELM_UNROLL for (int j = i + 1; j < N; ++j) x[i] = less_product(x[i], factor(j, i), x[j]);
+    x[i] = x[i] * factor(i, i);
+  }
 }
 
 // Decomposition
@@ -313,36 +311,31 @@ __attribute__((noinline)) void solve_one(A a, B b, D d) {
   const auto to = d.object(0);
   Triangle<T, N> f;
   f.load_one(a.object(0));
-  Lanes<T, 1, N> x[1];
-  ZELM_UNROLL for (int j = 0; j < N; ++j) x[0].e[0][j] = P::template load_first<1>(from.at(0, j));
-  substitute(x, [&](int, int i, int j) ZELM_INLINE_LAMBDA { return f.e[i][j]; });
-  ZELM_UNROLL for (int j = 0; j < N; ++j) x[0].e[0][j].template store_first<1>(to.at(0, j));
+  P x[N];
+  ZELM_UNROLL for (int j = 0; j < N; ++j) x[j] = P::template load_first<1>(from.at(0, j));
+  substitute(x, [&](int i, int j) ZELM_INLINE_LAMBDA { return f.e[i][j]; });
+  ZELM_UNROLL for (int j = 0; j < N; ++j) x[j].template store_first<1>(to.at(0, j));
 }
 
-/// Vectors k, ... for the lanes of R registers. `factors` is a view of as many, or the triangle of the one for all.
-template <int N, int R, bool beside, class F, class B, class D>
-ZELM_INLINE void solve_block(const F& factors, const B& b, const D& d, std::ptrdiff_t k, int valid) {
-  using T = typename D::T;
-  constexpr int L = Pack<T>::lanes;
-  Lanes<T, 1, N> x[R];
-  ZELM_UNROLL for (int r = 0; r < R; ++r) x[r].template load<beside>(b, k + r * L, valid);
-  if constexpr (std::is_same_v<F, Triangle<T, N>>) {
-    substitute(x, [&](int, int i, int j) ZELM_INLINE_LAMBDA { return factors.e[i][j]; });
-  } else {
-    Triangle<T, N> f[R];
-    ZELM_UNROLL for (int r = 0; r < R; ++r) f[r].template load<beside>(factors, k + r * L, valid);
-    substitute(x, [&](int r, int i, int j) ZELM_INLINE_LAMBDA { return f[r].e[i][j]; });
-  }
-  ZELM_UNROLL for (int r = 0; r < R; ++r) x[r].template store<beside>(d, k + r * L, valid);
-}
-
+/// `factors` is a view of as many as there are vectors, or the triangle of the one for all.
 template <int N, bool beside, class F, class B, class D>
 ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
-  constexpr int L = Pack<typename D::T>::lanes, R = kAlternating<N, D, std::is_same_v<F, Triangle<typename D::T, N>>>;
-  std::ptrdiff_t k = 0;
-  for (; k + R * L <= count; k += R * L) solve_block<N, R, beside>(factors, b, d, k, L);
-  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid)
-                               ZELM_INLINE_LAMBDA { solve_block<N, 1, beside>(factors, b, d, k + more, valid); });
+  using T = typename D::T;
+  constexpr int L = Pack<T>::lanes;
+  constexpr bool shared = std::is_same_v<F, Triangle<T, N>>;
+  for_alternating<kAlternating<N, D, shared>, L>(count, [=](std::ptrdiff_t k, auto registers, auto valid) ZELM_INLINE_LAMBDA {
+    using V = Many<T, registers * L>;
+    V x[N];
+    load_vectors<beside>(x, b, k, valid);
+    if constexpr (shared) {
+      substitute(x, [&](int i, int j) ZELM_INLINE_LAMBDA { return V(factors.e[i][j]); });
+    } else {
+      Triangle<T, N> f[registers];
+      ZELM_UNROLL for (int q = 0; q < registers; ++q) f[q].template load<beside>(factors, k + q * L, valid);
+      substitute(x, [&](int i, int j) ZELM_INLINE_LAMBDA { return V::each([&](int q) { return f[q].e[i][j]; }); });
+    }
+    store_vectors<beside>(x, d, k, valid);
+  });
 }
 
 /// A factor for each vector, or one for all.

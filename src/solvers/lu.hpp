@@ -178,13 +178,13 @@ ZELM_INLINE ZelStatus decompose(A a, int* index, D d, int order, int count) {
 template <int N, class P, class Factor, class ByPivot>
 ZELM_INLINE void substitute(P (&x)[N], Factor factor, ByPivot by_pivot) {
   ZELM_UNROLL for (int i = 1; i < N; ++i) {
-    ZELM_UNROLL for (int j = 1; j < i; ++j) x[i] = x[i] - factor(i, j) * x[j];
-    x[i] = x[i] - factor(i, 0) * x[0];
+    ZELM_UNROLL for (int j = 1; j < i; ++j) x[i] = less_product(x[i], factor(i, j), x[j]);
+    x[i] = less_product(x[i], factor(i, 0), x[0]);
   }
   ZELM_UNROLL for (int i = N - 1; i >= 0; --i) {
     const bool last_first = N - 1 - i >= 3;
-    if (last_first) x[i] = x[i] - factor(i, N - 1) * x[N - 1];
-    ZELM_UNROLL for (int j = i + 1; j < (last_first ? N - 1 : N); ++j) x[i] = x[i] - factor(i, j) * x[j];
+    if (last_first) x[i] = less_product(x[i], factor(i, N - 1), x[N - 1]);
+    ZELM_UNROLL for (int j = i + 1; j < (last_first ? N - 1 : N); ++j) x[i] = less_product(x[i], factor(i, j), x[j]);
     x[i] = by_pivot(x[i], i);
   }
 }
@@ -194,37 +194,28 @@ template <int N, bool beside, class A, class B, class D>
 void solve_each(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  const auto solve_blocks = [=](std::ptrdiff_t first, auto blocks, auto valid) ZELM_INLINE_LAMBDA {
-    Many<T, blocks * L> f[N][N], x[N];
-    ZELM_UNROLL for (int g = 0; g < blocks; ++g) {
-      const std::ptrdiff_t k = first + g * L;
-      typename A::Object matrices[L];
-      typename B::Object vectors[L];
-      const int* order[L];
-      a.objects(k, valid, matrices);
-      b.objects(k, valid, vectors);
-      ZELM_UNROLL for (int l = 0; l < L; ++l) order[l] = index + (k + std::min<int>(l, valid - 1)) * N;
-      ZELM_UNROLL for (int i = 0; i < N; ++i) {
-        Pack<T> row[N];
-        load_row(row, matrices, [&](int l) { return load(order[l] + i); });
-        ZELM_UNROLL for (int j = 0; j < N; ++j) f[i][j].part[g] = row[j];
-        x[i].part[g] = Pack<T>::template gather<L>([&](int l) { return vectors[l].at(0, load(order[l] + i)); });
-      }
-    }
-    substitute<N>(
-        x, [&](int i, int j) { return f[i][j]; }, [&](auto v, int i) { return v / f[i][i]; });
-    ZELM_UNROLL for (int g = 0; g < blocks; ++g) {
-      Lanes<T, 1, N> solution;
-      ZELM_UNROLL for (int i = 0; i < N; ++i) solution.e[0][i] = x[i].part[g];
-      solution.template store<beside>(d, first + g * L, valid);
-    }
-  };
-  std::ptrdiff_t k = 0;
-  constexpr int R = kAlternating<N, D, false>;
-  if constexpr (R > 1)
-    for (; k + R * L <= count; k += R * L) solve_blocks(k, std::integral_constant<int, R>{}, std::integral_constant<int, L>{});
-  for_blocks<L>(int(count - k), [=](std::ptrdiff_t from, auto valid)
-                                    ZELM_INLINE_LAMBDA { solve_blocks(k + from, std::integral_constant<int, 1>{}, valid); });
+  for_alternating<kAlternating<N, D, false>, L>(
+      count, [=](std::ptrdiff_t first, auto registers, auto valid) ZELM_INLINE_LAMBDA {
+        Many<T, registers * L> f[N][N], x[N];
+        ZELM_UNROLL for (int q = 0; q < registers; ++q) {
+          const std::ptrdiff_t k = first + q * L;
+          typename A::Object matrices[L];
+          typename B::Object vectors[L];
+          const int* order[L];
+          a.objects(k, valid, matrices);
+          b.objects(k, valid, vectors);
+          ZELM_UNROLL for (int l = 0; l < L; ++l) order[l] = index + (k + std::min<int>(l, valid - 1)) * N;
+          ZELM_UNROLL for (int i = 0; i < N; ++i) {
+            Pack<T> row[N];
+            load_row(row, matrices, [&](int l) { return load(order[l] + i); });
+            ZELM_UNROLL for (int j = 0; j < N; ++j) f[i][j].part[q] = row[j];
+            x[i].part[q] = Pack<T>::template gather<L>([&](int l) { return vectors[l].at(0, load(order[l] + i)); });
+          }
+        }
+        substitute<N>(
+            x, [&](int i, int j) { return f[i][j]; }, [&](const auto& v, int i) { return v / f[i][i]; });
+        store_vectors<beside>(x, d, first, valid);
+      });
 }
 
 /// The factors of the one matrix of a call, every element in all lanes, rows in pivot order.
@@ -274,17 +265,18 @@ struct InverseFactors {
     }
   }
 
-  ZELM_INLINE void apply(P (&x)[N]) const {
-    P y[N];
+  template <class V>
+  ZELM_INLINE void apply(V (&x)[N]) const {
+    V y[N];
     y[0] = x[0];
     ZELM_UNROLL for (int i = 1; i < N; ++i) {
-      P s = lower[i][0] * x[0];
-      ZELM_UNROLL for (int j = 1; j < i; ++j) s = s + lower[i][j] * x[j];
+      V s = V(lower[i][0]) * x[0];
+      ZELM_UNROLL for (int j = 1; j < i; ++j) s = s + V(lower[i][j]) * x[j];
       y[i] = s + x[i];
     }
     ZELM_UNROLL for (int i = 0; i < N; ++i) {
-      P s = upper[i][i] * y[i];
-      ZELM_UNROLL for (int j = i + 1; j < N; ++j) s = s + upper[i][j] * y[j];
+      V s = V(upper[i][i]) * y[i];
+      ZELM_UNROLL for (int j = i + 1; j < N; ++j) s = s + V(upper[i][j]) * y[j];
       x[i] = s;
     }
   }
@@ -300,22 +292,22 @@ ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply appl
   if (permutation) {
     std::array<int, N> order;
     for (int i = 0; i < N; ++i) order[i] = load(index + i);
-    for_blocks<L>(count, [=](std::ptrdiff_t k, auto valid) ZELM_INLINE_LAMBDA {
-      Lanes<T, 1, N> natural, x;
-      natural.template load<beside>(b, k, valid);
-      ZELM_UNROLL for (int i = 0; i < N; ++i) x.e[0][i] = natural.e[0][order[i]];
-      apply(x.e[0]);
-      x.template store<beside>(d, k, valid);
+    for_alternating<kAlternating<N, D, true>, L>(count, [=](std::ptrdiff_t k, auto registers, auto valid) ZELM_INLINE_LAMBDA {
+      Many<T, registers * L> natural[N], x[N];
+      load_vectors<beside>(natural, b, k, valid);
+      ZELM_UNROLL for (int i = 0; i < N; ++i) x[i] = natural[order[i]];
+      apply(x);
+      store_vectors<beside>(x, d, k, valid);
     });
   } else {
     // Entries are used as they stand: elsewhere than 0 to N - 1 they are read from memory.
     for (std::ptrdiff_t k = 0; k < count; ++k)
       last_block(
           [=](std::ptrdiff_t at, int) {
-            Lanes<T, 1, N> x;
-            for (int i = 0; i < N; ++i) x.e[0][i] = Pack<T>::splat(load(b.object(at).at(0, load(index + i))));
-            apply(x.e[0]);
-            x.store(d, at, 1);
+            Many<T, L> x[N];
+            for (int i = 0; i < N; ++i) x[i] = load(b.object(at).at(0, load(index + i)));
+            apply(x);
+            store_vectors<beside>(x, d, at, 1);
           },
           k, 1);
   }
@@ -333,9 +325,9 @@ void solve_one_matrix(A a, const int* index, B b, D d, int count) {
       return;
     }
   }
-  solve_vectors<N, beside>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA {
+  solve_vectors<N, beside>(b, index, d, count, [&]<class V>(V(&x)[N]) ZELM_INLINE_LAMBDA {
     substitute<N>(
-        x, [&](int i, int j) { return f.e[i][j]; }, [&](auto v, int i) { return v * f.inverse[i]; });
+        x, [&](int i, int j) { return V(f.e[i][j]); }, [&](const V& v, int i) { return v * V(f.inverse[i]); });
   });
 }
 
@@ -356,7 +348,7 @@ ZELM_INLINE ZelStatus solve_small(const A& a, const int* index, const B& b, cons
     return zelStsOk;
   }
   if constexpr (all_strided<A, B, D>) {
-    if (A::array && B::array && a.tight(N, N) && b.tight(1, N) && d.tight(1, N)) {
+    if (B::array && (!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N)) {
       solve_fixed<N, false>(tight_array<N, N>(a), index, tight_array<1, N>(b), tight_array<1, N>(d), count);
       return zelStsOk;
     }

@@ -377,44 +377,31 @@ struct Factors {
   Pack<T> beta[N - 1];
 };
 
-/// Known orders: right-hand sides k, ... for the lanes of B registers. `factors` is a view of as many matrices, or the one of all.
-template <int N, int B, bool beside, class F, class W, class D>
-ZELM_INLINE void solve_block(const F& factors, const W& b, const D& d, std::ptrdiff_t k, int valid) {
+/// Known orders. `factors` is a view of as many matrices as there are right-hand sides, or the one of all.
+template <int N, bool beside, class F, class B, class D>
+ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  using V = Many<T, B * L>;
-  Lanes<T, 1, N> y[B];
-  V x[N];
-  ZELM_UNROLL for (int q = 0; q < B; ++q) y[q].template load<beside>(b, k + q * L, valid);
-  ZELM_UNROLL for (int i = 0; i < N; ++i) x[i] = V::each([&](int q) ZELM_INLINE_LAMBDA { return y[q].e[0][i]; });
-  if constexpr (std::is_same_v<F, Factors<T, N>>) {
-    const auto m = [&](int i, int j)
-                       ZELM_INLINE_LAMBDA { return V::each([&](int) ZELM_INLINE_LAMBDA { return factors.lanes.e[i][j]; }); };
-    const auto beta = [&](int r)
-                          ZELM_INLINE_LAMBDA { return V::each([&](int) ZELM_INLINE_LAMBDA { return factors.beta[r]; }); };
-    solve_in_place<N, V>(Numbers<V>{x}, m, beta, N, N);
-  } else {
-    Lanes<T, N, N> f[B];
-    ZELM_UNROLL for (int q = 0; q < B; ++q) f[q].template load<beside>(factors, k + q * L, valid);
-    const auto m = [&](int i, int j)
-                       ZELM_INLINE_LAMBDA { return V::each([&](int q) ZELM_INLINE_LAMBDA { return f[q].e[i][j]; }); };
-    const auto beta = [&](int r) ZELM_INLINE_LAMBDA { return scale<true, V>(Column<decltype(m)>{m, r}, r, N); };
-    solve_in_place<N, V>(Numbers<V>{x}, m, beta, N, N);
-  }
-  ZELM_UNROLL for (int q = 0; q < B; ++q) {
-    ZELM_UNROLL for (int i = 0; i < N; ++i) y[q].e[0][i] = x[i].part[q];
-    y[q].template store<beside>(d, k + q * L, valid);
-  }
-}
-
-template <int N, bool beside, class F, class W, class D>
-ZELM_INLINE void solve_blocks(const F& factors, W b, D d, int count) {
-  constexpr int L = Pack<typename D::T>::lanes, B = kAlternating<N, D, std::is_same_v<F, Factors<typename D::T, N>>>;
-  std::ptrdiff_t k = 0;
-  if constexpr (W::array)
-    for (; k + B * L <= count; k += B * L) solve_block<N, B, beside>(factors, b, d, k, L);
-  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid)
-                               ZELM_INLINE_LAMBDA { solve_block<N, 1, beside>(factors, b, d, k + more, valid); });
+  constexpr bool shared = std::is_same_v<F, Factors<T, N>>;
+  for_alternating<B::array ? kAlternating<N, D, shared> : 1, L>(
+      count, [=](std::ptrdiff_t k, auto registers, auto valid) ZELM_INLINE_LAMBDA {
+        using V = Many<T, registers * L>;
+        V x[N];
+        load_vectors<beside>(x, b, k, valid);
+        if constexpr (shared) {
+          const auto m = [&](int i, int j) ZELM_INLINE_LAMBDA { return V(factors.lanes.e[i][j]); };
+          solve_in_place<N, V>(
+              Numbers<V>{x}, m, [&](int r) ZELM_INLINE_LAMBDA { return V(factors.beta[r]); }, N, N);
+        } else {
+          Lanes<T, N, N> f[registers];
+          ZELM_UNROLL for (int q = 0; q < registers; ++q) f[q].template load<beside>(factors, k + q * L, valid);
+          const auto m = [&](int i, int j)
+                             ZELM_INLINE_LAMBDA { return V::each([&](int q) ZELM_INLINE_LAMBDA { return f[q].e[i][j]; }); };
+          const auto beta = [&](int r) ZELM_INLINE_LAMBDA { return scale<true, V>(Column<decltype(m)>{m, r}, r, N); };
+          solve_in_place<N, V>(Numbers<V>{x}, m, beta, N, N);
+        }
+        store_vectors<beside>(x, d, k, valid);
+      });
 }
 
 template <int N, bool beside, class A, class W, class D>
