@@ -37,8 +37,9 @@ ZELM_INLINE void rows_to_lanes(Pack<double> (&e)[N], Address at) {
   ZELM_UNROLL for (int j = 0; j < N; ++j) e[j] = Pack<double>::gather<2>([&](int l) { return at(l) + j; });
 }
 
-/// The other way. Row by row, since neighbouring stores to one cache line are written as one.
-template <int N, class Address>
+/// The other way. Row by row, since neighbouring stores to one cache line are written as one. `streamed`: past the caches, rows of
+/// whole registers.
+template <bool streamed = false, int N, class Address>
 ZELM_INLINE void lanes_to_rows(const Pack<float> (&e)[N], Address at) {
   using P = Pack<float>;
   constexpr int tiles = N / 4, full = 4 * tiles;
@@ -58,19 +59,19 @@ ZELM_INLINE void lanes_to_rows(const Pack<float> (&e)[N], Address at) {
     // A last element without a partner is the second of two, the first of which is then written again: EXTRACTPS takes a shuffle.
     if constexpr (N == 1) last.template store_lane<l>(row);
     else if constexpr (N % 2) (l % 2 ? last : even_lanes).template store_half<l / 2>(row + (N - 2));
-    ZELM_UNROLL for (int t = 0; t < tiles; ++t) tile[t][l].store(row + 4 * t);
+    ZELM_UNROLL for (int t = 0; t < tiles; ++t) put<streamed>(tile[t][l], row + 4 * t);
     if constexpr (N % 4 >= 2) P{l < 2 ? low : high}.template store_half<l % 2>(row + full);
   });
 }
 
-template <int N, class Address>
+template <bool streamed = false, int N, class Address>
 ZELM_INLINE void lanes_to_rows(const Pack<double> (&e)[N], Address at) {
   using P = Pack<double>;
   ZELM_UNROLL for (int j = 0; j + 1 < N; j += 2) {
     P tile[2] = {e[j], e[j + 1]};
     transpose(tile);
-    tile[0].store(at(0) + j);
-    tile[1].store(at(1) + j);
+    put<streamed>(tile[0], at(0) + j);
+    put<streamed>(tile[1], at(1) + j);
   }
   if constexpr (N % 2) e[N - 1].template scatter<2>([&](int l) { return at(l) + (N - 1); });
 }
@@ -114,11 +115,12 @@ ZELM_INLINE void lanes_to_packed(const Pack<float> (&e)[3], float* p) {
     high.store_half<1>(p + 9);
   }
 }
+template <bool streamed = false>
 ZELM_INLINE void lanes_to_packed(const Pack<double> (&e)[3], double* p) {
   const __m128d x = e[0].raw, y = e[1].raw, z = e[2].raw;
-  Pack<double>{shuffle<0>(x, y)}.store(p);
-  Pack<double>{shuffle<2>(z, x)}.store(p + 2);
-  Pack<double>{shuffle<3>(y, z)}.store(p + 4);
+  put<streamed>(Pack<double>{shuffle<0>(x, y)}, p);
+  put<streamed>(Pack<double>{shuffle<2>(z, x)}, p + 2);
+  put<streamed>(Pack<double>{shuffle<3>(y, z)}, p + 4);
 }
 
 /// Four vectors of two elements.
@@ -311,6 +313,16 @@ struct Lanes {
   }
 };
 
+/// A view of vectors that are written past the caches (worth_streaming).
+template <class View>
+struct Streamed : View {};
+template <class View>
+inline constexpr bool is_streamed = false;
+template <class View>
+inline constexpr bool is_streamed<Streamed<View>> = true;
+template <class View>
+inline constexpr bool is_tight<Streamed<View>> = is_tight<View>;
+
 /// Systems of order N are solved in so many registers of objects at once, a step of each in turn: the chain of one alone leaves the
 /// processor waiting, which looks only so far ahead. Four are up to 1.5 times as fast as one, but larger objects then only fill the
 /// stack. Arrays with gaps spend their time elsewhere; `shared`: on one matrix for all, which need not be loaded.
@@ -341,8 +353,30 @@ ZELM_INLINE void store_vectors(const Many<T, M> (&x)[N], const View& view, std::
   ZELM_UNROLL for (int q = 0; q < Many<T, M>::packs; ++q) {
     Lanes<T, 1, N> part;
     ZELM_UNROLL for (int i = 0; i < N; ++i) part.e[0][i] = x[i].part[q];
+    if constexpr (is_streamed<View>) {
+      if (valid == part.L) {
+        T* const to = view.object(k + q * part.L).base;
+        if constexpr (N == 3) lanes_to_packed<true>(part.e[0], to);
+        else lanes_to_rows<true>(part.e[0], [=](int l) { return to + l * N; });
+        continue;
+      }
+    }
     part.template store<beside>(view, k + q * part.L, valid);
   }
+}
+
+/// Calls body with the tight vectors x of A x = b: one that writes them past the caches where one A serves them all, they are many,
+/// not the source, and of an order whose blocks fill registers. Else the lines of x are read only to be overwritten: a quarter of
+/// the time where nothing fits a cache. With a matrix for each vector the reading of those decides.
+template <int N, class A, class B, class D, class Body>
+ZELM_INLINE void with_stores(const A&, const B& b, const D& x, int count, Body body) {
+  if constexpr (!A::array && (N == 3 || N * sizeof(typename D::T) % 16 == 0)) {
+    if (worth_streaming(x.first, std::ptrdiff_t(count) * N) && b.first != x.first) {
+      body(Streamed<D>{x});
+      return _mm_sfence();
+    }
+  }
+  body(x);
 }
 
 }  // namespace zelm

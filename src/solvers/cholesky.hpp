@@ -358,8 +358,12 @@ ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int count) {
       return solve_vectors<N, true>(a, b, d, count), zelStsOk;
   }
   if constexpr (A::plain && B::plain && D::plain) {
-    if ((!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N))
-      return solve_vectors<N, false>(tight_array<N, N>(a), tight_array<1, N>(b), tight_array<1, N>(d), count), zelStsOk;
+    if ((!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N)) {
+      with_stores<N>(a, b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
+        solve_vectors<N, false>(tight_array<N, N>(a), tight_array<1, N>(b), to, count);
+      });
+      return zelStsOk;
+    }
   }
   solve_vectors<N, false>(a, b, d, count);
   return zelStsOk;

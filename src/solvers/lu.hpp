@@ -349,7 +349,9 @@ ZELM_INLINE ZelStatus solve_small(const A& a, const int* index, const B& b, cons
   }
   if constexpr (all_strided<A, B, D>) {
     if (B::array && (!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N)) {
-      solve_fixed<N, false>(tight_array<N, N>(a), index, tight_array<1, N>(b), tight_array<1, N>(d), count);
+      with_stores<N>(a, b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
+        solve_fixed<N, false>(tight_array<N, N>(a), index, tight_array<1, N>(b), to, count);
+      });
       return zelStsOk;
     }
   }

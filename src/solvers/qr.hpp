@@ -466,8 +466,12 @@ ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int width, int height, int coun
     if ((!A::array || a.interleaved()) && b.interleaved() && d.interleaved())
       return solve_lanes<N, true>(a, b, d, width, height, count);
   if constexpr (N > 0 && A::plain && B::array && B::plain && D::plain) {
-    if ((!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N))
-      return solve_lanes<N, false>(tight_array<N, N>(a), tight_array<1, N>(b), tight_array<1, N>(d), width, height, count);
+    if ((!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N)) {
+      with_stores<N>(a, b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
+        solve_known<N, false>(tight_array<N, N>(a), tight_array<1, N>(b), to, count);
+      });
+      return zelStsOk;
+    }
   }
   return solve_lanes<N, false>(a, b, d, width, height, count);
 }

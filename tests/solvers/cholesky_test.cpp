@@ -292,6 +292,36 @@ TEST(CholeskyFourObjects, ReportTheLanesThatFailed) {
   EXPECT_NE(p8_CholoDec_32f_V8(a.data(), 36, 12, d.data(), 36, 12, 3, 9), 0);
 }
 
+/// Solutions of 64 MiB and more that share one matrix go past the caches. They are those of the same systems in several calls.
+TEST(SolutionsStreamed, LargeResultsAreThoseOfSmallOnes) {
+  const auto check_large = []<class T>(T diagonal, int n, auto solve) {
+    const int objects = (64 << 20) / (n * int(sizeof(T))) + 7;
+    std::vector<T> a(std::size_t(n * n), T(0.25)), got(std::size_t(n) * objects + 1), want(got.size());
+    for (int i = 0; i < n; ++i) a[i * n + i] = diagonal;
+    const std::vector<T> b = Random(1).uniforms<T>(n * objects);
+    const int row = n * int(sizeof(T));
+    use_threads(1);
+    EXPECT_EQ(solve(a.data(), row, b.data(), got.data(), objects), zelStsOk);
+    for (int first = 0; first < objects; first += 1 << 20)
+      solve(a.data(), row, &b[std::size_t(first) * n], &want[std::size_t(first) * n], std::min(1 << 20, objects - first));
+    EXPECT_TRUE(got == want) << n;
+  };
+  check_large(2.f, 3, [](auto* a, int row, auto* b, auto* x, int count) {
+    return zelmCholeskyBackSubst_mva_32f(a, row, 4, b, row, 4, x, row, 4, 3, count);
+  });
+  check_large(2., 3, [](auto* a, int row, auto* b, auto* x, int count) {
+    return zelmCholeskyBackSubst_mva_64f(a, row, 8, b, row, 8, x, row, 8, 3, count);
+  });
+  check_large(2.f, 4, [](auto* a, int row, auto* b, auto* x, int count) {
+    const int order[] = {2, 0, 3, 1};
+    return zelmLUBackSubst_mva_32f(a, row, 4, order, b, row, 4, x, row, 4, 4, count);
+  });
+  check_large(2., 6, [](auto* a, int row, auto* b, auto* x, int count) {
+    double buffer[6];
+    return zelmQRBackSubst_mva_64f(a, row, 8, buffer, b, row, 8, x, row, 8, 6, 6, count);
+  });
+}
+
 TEST(CholeskyKnownAnswers, SmallFirstElement) {
   const float a[9] = {1e-10f, 0, 0, 0, 1, 0, 0, 0, 1};
   float d[9];
