@@ -7,7 +7,7 @@
 // otherwise. Error bounds: Higham, Accuracy and Stability of Numerical Algorithms, 2nd ed., section 10.1; measured in
 // tests/solvers/cholesky_accuracy_test.cpp.
 #pragma once
-#include "frame/lanes.hpp"
+#include "frame/alternating.hpp"
 #include "products/sums.hpp"
 #include "zelm_types.h"
 

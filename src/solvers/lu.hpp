@@ -9,7 +9,7 @@
 #include <array>
 #include <limits>
 
-#include "frame/lanes.hpp"
+#include "frame/alternating.hpp"
 #include "simd/many.hpp"
 #include "solvers/lu_cores.hpp"
 #include "zelm_types.h"

@@ -9,7 +9,7 @@
 #pragma once
 #include <limits>
 
-#include "frame/lanes.hpp"
+#include "frame/alternating.hpp"
 #include "simd/many.hpp"
 #include "zelm_types.h"
 
