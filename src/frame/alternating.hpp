@@ -16,20 +16,10 @@ template <class View>
 inline constexpr bool is_tight<Streamed<View>> = is_tight<View>;
 
 /// Systems of order N are solved in so many registers of objects at once, a step of each in turn: the chain of one alone leaves the
-/// processor waiting, which looks only so far ahead. Four are up to 1.5 times as fast as one, but larger objects then only fill the
-/// stack. Arrays with gaps spend their time elsewhere; `shared`: on one matrix for all, which need not be loaded.
+/// processor waiting, which looks only so far ahead. Four are up to 1.5 times as fast as one, but many larger matrices then only fill
+/// the stack. Arrays with gaps spend their time elsewhere; `shared`: on one matrix for all, which need not be loaded.
 template <int N, class View, bool shared>
-inline constexpr int kAlternating = is_tight<View> ? (N < 5 ? 4 : 3) : (shared ? 2 : 1);
-
-/// As for_blocks, but body(k, registers, valid) takes R registers of objects at a time as long as there are so many, and then one.
-template <int R, int L, class Body>
-ZELM_INLINE void for_alternating(std::ptrdiff_t count, Body body) {
-  std::ptrdiff_t k = 0;
-  if constexpr (R > 1)
-    for (; k + R * L <= count; k += R * L) body(k, std::integral_constant<int, R>{}, std::integral_constant<int, L>{});
-  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid)
-                               ZELM_INLINE_LAMBDA { body(k + more, std::integral_constant<int, 1>{}, valid); });
-}
+inline constexpr int kAlternating = is_tight<View> ? (shared || N < 5 ? 4 : 3) : (shared ? 2 : 1);
 
 /// Vectors k, ... of N elements, in as many registers as Many has; `valid` objects in each.
 template <bool beside, class T, int M, int N, class View>
@@ -57,12 +47,54 @@ ZELM_INLINE void store_vectors(const Many<T, M> (&x)[N], const View& view, std::
   }
 }
 
-/// Calls body with the tight vectors x of A x = b: one that writes them past the caches where one A serves them all, they are many,
-/// not the source, and of an order whose blocks fill registers. Else the lines of x are read only to be overwritten: 15 to 25 % of
-/// the time where nothing fits a cache. With a matrix for each vector the reading of those decides.
-template <int N, class A, class B, class D, class Body>
-ZELM_INLINE void with_stores(const A&, const B& b, const D& x, int count, Body body) {
-  if constexpr (!A::array && (N == 3 || N * sizeof(typename D::T) % 16 == 0)) {
+struct Nothing {
+  ZELM_INLINE void operator()() const {}
+};
+
+/// Fills d with solutions: body(x, k, valid, halfway) makes x those from k on and calls halfway() once amid its arithmetic. There the
+/// registers of objects before it are stored, whose shuffles then have something to run beside. It saves 2 to 20 % of the time, but
+/// costs as much for vectors of three, for interleaved ones, which take no shuffles, and for doubles that lie apart or have a matrix
+/// each. The rest goes register by register.
+template <int N, bool shared, bool beside, int most = 4, class D, class Body>
+ZELM_INLINE void for_alternating(D d, std::ptrdiff_t count, Body body) {
+  using T = typename D::T;
+  constexpr int L = Pack<T>::lanes, R = std::min(most, kAlternating<N, D, shared>);
+  constexpr std::integral_constant<int, L> full{};
+  std::ptrdiff_t k = 0;
+  if constexpr (R > 1 && N > 3 && !beside && (sizeof(T) == 4 || (shared && is_tight<D>))) {
+    if (count >= R * L) {
+      Many<T, R * L> solved[N];
+      const auto store_solved = [&]() ZELM_INLINE_LAMBDA { store_vectors<beside>(solved, d, k - R * L, full); };
+      const auto solve = [&](auto halfway) ZELM_INLINE_LAMBDA {
+        Many<T, R * L> x[N];
+        body(x, k, full, halfway);
+        ZELM_UNROLL for (int i = 0; i < N; ++i) solved[i] = x[i];
+        k += R * L;
+      };
+      solve(Nothing{});
+      while (k + R * L <= count) solve(store_solved);
+      store_solved();
+    }
+  } else if constexpr (R > 1) {
+    for (; k + R * L <= count; k += R * L) {
+      Many<T, R * L> x[N];
+      body(x, k, full, Nothing{});
+      store_vectors<beside>(x, d, k, full);
+    }
+  }
+  for_blocks<L>(count - k, [=](std::ptrdiff_t more, auto valid) ZELM_INLINE_LAMBDA {
+    Many<T, L> x[N];
+    body(x, k + more, valid, Nothing{});
+    store_vectors<beside>(x, d, k + more, valid);
+  });
+}
+
+/// Calls body with the tight vectors x, the solutions for those of b: written past the caches where they are many, not the source,
+/// and of an order whose blocks fill registers. Else the lines of x are read only to be overwritten: where nothing fits a cache, 15 to
+/// 25 % of the time with one matrix for all, 8 to 25 % with a matrix of order 3 or 4 for each.
+template <int N, class B, class D, class Body>
+ZELM_INLINE void with_stores(const B& b, const D& x, int count, Body body) {
+  if constexpr (N == 3 || N * sizeof(typename D::T) % 16 == 0) {
     if (worth_streaming(x.first, std::ptrdiff_t(count) * N) && b.first != x.first) {
       body(Streamed<D>{x});
       return _mm_sfence();

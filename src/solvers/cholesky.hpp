@@ -142,12 +142,13 @@ struct Triangle {
 };
 
 /// L L^T x = b, in place; factor(i, j) is an element of L.
-template <int N, class V, class Factor>
-ZELM_INLINE void substitute(V (&x)[N], Factor factor) {
+template <int N, class V, class Factor, class Halfway = Nothing>
+ZELM_INLINE void substitute(V (&x)[N], Factor factor, Halfway halfway = {}) {
   ZELM_UNROLL for (int i = 0; i < N; ++i) {
     ZELM_UNROLL for (int j = 0; j < i; ++j) x[i] = less_product(x[i], factor(i, j), x[j]);
     x[i] = x[i] * factor(i, i);
   }
+  halfway();
   ZELM_UNROLL for (int i = N - 1; i >= 0; --i) {
     ZELM_UNROLL for (int j = i + 1; j < N; ++j) x[i] = less_product(x[i], factor(j, i), x[j]);
     x[i] = x[i] * factor(i, i);
@@ -323,19 +324,19 @@ ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
   constexpr bool shared = std::is_same_v<F, Triangle<T, N>>;
-  for_alternating<kAlternating<N, D, shared>, L>(count, [=](std::ptrdiff_t k, auto registers, auto valid) ZELM_INLINE_LAMBDA {
-    using V = Many<T, registers * L>;
-    V x[N];
-    load_vectors<beside>(x, b, k, valid);
-    if constexpr (shared) {
-      substitute(x, [&](int i, int j) ZELM_INLINE_LAMBDA { return V(factors.e[i][j]); });
-    } else {
-      Triangle<T, N> f[registers];
-      ZELM_UNROLL for (int q = 0; q < registers; ++q) f[q].template load<beside>(factors, k + q * L, valid);
-      substitute(x, [&](int i, int j) ZELM_INLINE_LAMBDA { return V::each([&](int q) { return f[q].e[i][j]; }); });
-    }
-    store_vectors<beside>(x, d, k, valid);
-  });
+  for_alternating<N, shared, beside, shared ? 4 : 3>(
+      d, count, [=]<class V>(V(&x)[N], std::ptrdiff_t k, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
+        load_vectors<beside>(x, b, k, valid);
+        if constexpr (shared) {
+          substitute(
+              x, [&](int i, int j) ZELM_INLINE_LAMBDA { return V(factors.e[i][j]); }, halfway);
+        } else {
+          Triangle<T, N> f[V::packs];
+          ZELM_UNROLL for (int q = 0; q < V::packs; ++q) f[q].template load<beside>(factors, k + q * L, valid);
+          substitute(
+              x, [&](int i, int j) ZELM_INLINE_LAMBDA { return V::each([&](int q) { return f[q].e[i][j]; }); }, halfway);
+        }
+      });
 }
 
 /// A factor for each vector, or one for all.
@@ -359,7 +360,7 @@ ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int count) {
   }
   if constexpr (A::plain && B::plain && D::plain) {
     if ((!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N)) {
-      with_stores<N>(a, b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
+      with_stores<N>(b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
         solve_vectors<N, false>(tight_array<N, N>(a), tight_array<1, N>(b), to, count);
       });
       return zelStsOk;

@@ -175,12 +175,13 @@ ZELM_INLINE ZelStatus decompose(A a, int* index, D d, int order, int count) {
 /// row i of U ascending terms, but the last one first where there are three or more.
 ///   factor(i, j)   element of the factors, rows in pivot order
 ///   by_pivot(x, i) x over the i-th pivot
-template <int N, class P, class Factor, class ByPivot>
-ZELM_INLINE void substitute(P (&x)[N], Factor factor, ByPivot by_pivot) {
+template <int N, class P, class Factor, class ByPivot, class Halfway>
+ZELM_INLINE void substitute(P (&x)[N], Factor factor, ByPivot by_pivot, Halfway halfway) {
   ZELM_UNROLL for (int i = 1; i < N; ++i) {
     ZELM_UNROLL for (int j = 1; j < i; ++j) x[i] = less_product(x[i], factor(i, j), x[j]);
     x[i] = less_product(x[i], factor(i, 0), x[0]);
   }
+  halfway();
   ZELM_UNROLL for (int i = N - 1; i >= 0; --i) {
     const bool last_first = N - 1 - i >= 3;
     if (last_first) x[i] = less_product(x[i], factor(i, N - 1), x[N - 1]);
@@ -194,10 +195,10 @@ template <int N, bool beside, class A, class B, class D>
 void solve_each(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  for_alternating<kAlternating<N, D, false>, L>(
-      count, [=](std::ptrdiff_t first, auto registers, auto valid) ZELM_INLINE_LAMBDA {
-        Many<T, registers * L> f[N][N], x[N];
-        ZELM_UNROLL for (int q = 0; q < registers; ++q) {
+  for_alternating<N, false, beside>(
+      d, count, [=]<class V>(V(&x)[N], std::ptrdiff_t first, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
+        V f[N][N];
+        ZELM_UNROLL for (int q = 0; q < V::packs; ++q) {
           const std::ptrdiff_t k = first + q * L;
           typename A::Object matrices[L];
           typename B::Object vectors[L];
@@ -213,8 +214,7 @@ void solve_each(A a, const int* index, B b, D d, int count) {
           }
         }
         substitute<N>(
-            x, [&](int i, int j) { return f[i][j]; }, [&](const auto& v, int i) { return v / f[i][i]; });
-        store_vectors<beside>(x, d, first, valid);
+            x, [&](int i, int j) { return f[i][j]; }, [&](const V& v, int i) { return v / f[i][i]; }, halfway);
       });
 }
 
@@ -265,8 +265,8 @@ struct InverseFactors {
     }
   }
 
-  template <class V>
-  ZELM_INLINE void apply(V (&x)[N]) const {
+  template <class V, class Halfway>
+  ZELM_INLINE void apply(V (&x)[N], Halfway halfway) const {
     V y[N];
     y[0] = x[0];
     ZELM_UNROLL for (int i = 1; i < N; ++i) {
@@ -274,6 +274,7 @@ struct InverseFactors {
       ZELM_UNROLL for (int j = 1; j < i; ++j) s = s + V(lower[i][j]) * x[j];
       y[i] = s + x[i];
     }
+    halfway();
     ZELM_UNROLL for (int i = 0; i < N; ++i) {
       V s = V(upper[i][i]) * y[i];
       ZELM_UNROLL for (int j = i + 1; j < N; ++j) s = s + V(upper[i][j]) * y[j];
@@ -282,7 +283,7 @@ struct InverseFactors {
   }
 };
 
-/// Many vectors with one matrix; apply(x) solves for the vectors in the lanes of x, which come in pivot order.
+/// Many vectors with one matrix; apply(x, halfway) solves for the vectors in the lanes of x, which come in pivot order.
 template <int N, bool beside, class B, class D, class Apply>
 ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply apply) {
   using T = typename D::T;
@@ -292,13 +293,13 @@ ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply appl
   if (permutation) {
     std::array<int, N> order;
     for (int i = 0; i < N; ++i) order[i] = load(index + i);
-    for_alternating<kAlternating<N, D, true>, L>(count, [=](std::ptrdiff_t k, auto registers, auto valid) ZELM_INLINE_LAMBDA {
-      Many<T, registers * L> natural[N], x[N];
-      load_vectors<beside>(natural, b, k, valid);
-      ZELM_UNROLL for (int i = 0; i < N; ++i) x[i] = natural[order[i]];
-      apply(x);
-      store_vectors<beside>(x, d, k, valid);
-    });
+    for_alternating<N, true, beside>(d, count,
+                                     [=]<class V>(V(&x)[N], std::ptrdiff_t k, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
+                                       V natural[N];
+                                       load_vectors<beside>(natural, b, k, valid);
+                                       ZELM_UNROLL for (int i = 0; i < N; ++i) x[i] = natural[order[i]];
+                                       apply(x, halfway);
+                                     });
   } else {
     // Entries are used as they stand: elsewhere than 0 to N - 1 they are read from memory.
     for (std::ptrdiff_t k = 0; k < count; ++k)
@@ -306,7 +307,7 @@ ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply appl
           [=](std::ptrdiff_t at, int) {
             Many<T, L> x[N];
             for (int i = 0; i < N; ++i) x[i] = load(b.object(at).at(0, load(index + i)));
-            apply(x);
+            apply(x, Nothing{});
             store_vectors<beside>(x, d, at, 1);
           },
           k, 1);
@@ -321,13 +322,14 @@ void solve_one_matrix(A a, const int* index, B b, D d, int count) {
   if constexpr (std::is_same_v<T, float> && A::plain && B::plain && D::plain) {
     if (count > 2) {
       const InverseFactors<T, N> inverse(f);
-      solve_vectors<N, beside>(b, index, d, count, [&](auto& x) ZELM_INLINE_LAMBDA { inverse.apply(x); });
+      solve_vectors<N, beside>(b, index, d, count,
+                               [&](auto& x, auto halfway) ZELM_INLINE_LAMBDA { inverse.apply(x, halfway); });
       return;
     }
   }
-  solve_vectors<N, beside>(b, index, d, count, [&]<class V>(V(&x)[N]) ZELM_INLINE_LAMBDA {
+  solve_vectors<N, beside>(b, index, d, count, [&]<class V>(V(&x)[N], auto halfway) ZELM_INLINE_LAMBDA {
     substitute<N>(
-        x, [&](int i, int j) { return V(f.e[i][j]); }, [&](const V& v, int i) { return v * V(f.inverse[i]); });
+        x, [&](int i, int j) { return V(f.e[i][j]); }, [&](const V& v, int i) { return v * V(f.inverse[i]); }, halfway);
   });
 }
 
@@ -349,7 +351,7 @@ ZELM_INLINE ZelStatus solve_small(const A& a, const int* index, const B& b, cons
   }
   if constexpr (all_strided<A, B, D>) {
     if (B::array && (!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N)) {
-      with_stores<N>(a, b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
+      with_stores<N>(b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
         solve_fixed<N, false>(tight_array<N, N>(a), index, tight_array<1, N>(b), to, count);
       });
       return zelStsOk;

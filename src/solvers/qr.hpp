@@ -91,8 +91,8 @@ ZELM_INLINE P make_reflection(const M& m, int k, int height, P square) {
 
 /// y becomes the solution, in its first `width` elements. Known sizes are square and add the part of a reflection that goes to its
 /// own row behind the terms of the substitution, but in row 0 ahead of them.
-template <int N, class P, class Y, class M, class Scale>
-ZELM_INLINE void solve_in_place(const Y& y, const M& m, Scale beta, int width, int height) {
+template <int N, class P, class Y, class M, class Scale, class Halfway = Nothing>
+ZELM_INLINE void solve_in_place(const Y& y, const M& m, Scale beta, int width, int height, Halfway halfway = {}) {
   constexpr bool fixed = N > 0;
   P late[fixed ? N : 1];
   each_reflection<N>(width, height, [&](int k) ZELM_INLINE_LAMBDA {
@@ -100,6 +100,7 @@ ZELM_INLINE void solve_in_place(const Y& y, const M& m, Scale beta, int width, i
     if (fixed && k > 0) late[k] = c;
     else y.set(k, y(k) + c);
   });
+  halfway();
   each<fixed>(0, width, [&](int from_last) ZELM_INLINE_LAMBDA {
     const int i = width - 1 - from_last;
     P s = y(i);
@@ -383,24 +384,21 @@ ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
   constexpr bool shared = std::is_same_v<F, Factors<T, N>>;
-  for_alternating<B::array ? kAlternating<N, D, shared> : 1, L>(
-      count, [=](std::ptrdiff_t k, auto registers, auto valid) ZELM_INLINE_LAMBDA {
-        using V = Many<T, registers * L>;
-        V x[N];
+  for_alternating<N, shared, beside>(
+      d, count, [=]<class V>(V(&x)[N], std::ptrdiff_t k, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
         load_vectors<beside>(x, b, k, valid);
         if constexpr (shared) {
           const auto m = [&](int i, int j) ZELM_INLINE_LAMBDA { return V(factors.lanes.e[i][j]); };
           solve_in_place<N, V>(
-              Numbers<V>{x}, m, [&](int r) ZELM_INLINE_LAMBDA { return V(factors.beta[r]); }, N, N);
+              Numbers<V>{x}, m, [&](int r) ZELM_INLINE_LAMBDA { return V(factors.beta[r]); }, N, N, halfway);
         } else {
-          Lanes<T, N, N> f[registers];
-          ZELM_UNROLL for (int q = 0; q < registers; ++q) f[q].template load<beside>(factors, k + q * L, valid);
+          Lanes<T, N, N> f[V::packs];
+          ZELM_UNROLL for (int q = 0; q < V::packs; ++q) f[q].template load<beside>(factors, k + q * L, valid);
           const auto m = [&](int i, int j)
                              ZELM_INLINE_LAMBDA { return V::each([&](int q) ZELM_INLINE_LAMBDA { return f[q].e[i][j]; }); };
           const auto beta = [&](int r) ZELM_INLINE_LAMBDA { return scale<true, V>(Column<decltype(m)>{m, r}, r, N); };
-          solve_in_place<N, V>(Numbers<V>{x}, m, beta, N, N);
+          solve_in_place<N, V>(Numbers<V>{x}, m, beta, N, N, halfway);
         }
-        store_vectors<beside>(x, d, k, valid);
       });
 }
 
@@ -467,7 +465,7 @@ ZELM_INLINE ZelStatus solve_small(A a, B b, D d, int width, int height, int coun
       return solve_lanes<N, true>(a, b, d, width, height, count);
   if constexpr (N > 0 && A::plain && B::array && B::plain && D::plain) {
     if ((!A::array || a.tight(N, N)) && b.tight(1, N) && d.tight(1, N)) {
-      with_stores<N>(a, b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
+      with_stores<N>(b, tight_array<1, N>(d), count, [&](const auto& to) ZELM_INLINE_LAMBDA {
         solve_known<N, false>(tight_array<N, N>(a), tight_array<1, N>(b), to, count);
       });
       return zelStsOk;

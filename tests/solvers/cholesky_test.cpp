@@ -253,7 +253,7 @@ TEST_P(CholeskyBackSubst, EveryOrderInEveryMemory) {
     for (const int n : kOrders)
       for (const Memory& memory : memories())
         for (int turn = 0; turn < (n < 9 ? 3 : 1) && !HasFailure(); ++turn)
-          check_solution<decltype(t)>(n, 1 + random.below(13), memory, random, turn == 1 && fixed(n) ? 1 : -1,
+          check_solution<decltype(t)>(n, random.objects(turn && fixed(n)), memory, random, turn == 1 && fixed(n) ? 1 : -1,
                                       n < 8 ? std::vector{1, 3} : std::vector<int>());
   });
 }
@@ -292,23 +292,32 @@ TEST(CholeskyFourObjects, ReportTheLanesThatFailed) {
   EXPECT_NE(p8_CholoDec_32f_V8(a.data(), 36, 12, d.data(), 36, 12, 3, 9), 0);
 }
 
-/// Solutions of 64 MiB and more that share one matrix go past the caches. They are those of the same systems in several calls.
+/// Solutions of 64 MiB and more go past the caches. They are those of the same systems in several calls. `each`: a matrix for each.
 TEST(SolutionsStreamed, LargeResultsAreThoseOfSmallOnes) {
-  const auto check_large = []<class T>(T diagonal, int n, auto solve) {
+  const auto check_large = []<class T>(T diagonal, int n, auto solve, bool each = false) {
     const int objects = (64 << 20) / (n * int(sizeof(T))) + 7;
-    std::vector<T> a(std::size_t(n * n), T(0.25)), got(std::size_t(n) * objects + 1), want(got.size());
-    for (int i = 0; i < n; ++i) a[i * n + i] = diagonal;
+    const std::size_t square = std::size_t(n * n), next = each ? square : 0;
+    std::vector<T> a(square * (each ? objects : 1), T(0.25)), got(std::size_t(n) * objects + 1), want(got.size());
+    for (std::size_t e = 0; e < a.size(); ++e)
+      if (e % square % std::size_t(n + 1) == 0) a[e] = diagonal + T(e % 11);
     const std::vector<T> b = Random(1).uniforms<T>(n * objects);
     const int row = n * int(sizeof(T));
     use_threads(1);
     EXPECT_EQ(solve(a.data(), row, b.data(), got.data(), objects), zelStsOk);
     for (int first = 0; first < objects; first += 1 << 20)
-      solve(a.data(), row, &b[std::size_t(first) * n], &want[std::size_t(first) * n], std::min(1 << 20, objects - first));
+      solve(&a[first * next], row, &b[std::size_t(first) * n], &want[std::size_t(first) * n],
+            std::min(1 << 20, objects - first));
     EXPECT_TRUE(got == want) << n;
   };
   check_large(2.f, 3, [](auto* a, int row, auto* b, auto* x, int count) {
     return zelmCholeskyBackSubst_mva_32f(a, row, 4, b, row, 4, x, row, 4, 3, count);
   });
+  check_large(
+      2.f, 3,
+      [](auto* a, int row, auto* b, auto* x, int count) {
+        return zelmCholeskyBackSubst_mava_32f(a, 3 * row, row, 4, b, row, 4, x, row, 4, 3, count);
+      },
+      true);
   check_large(2., 3, [](auto* a, int row, auto* b, auto* x, int count) {
     return zelmCholeskyBackSubst_mva_64f(a, row, 8, b, row, 8, x, row, 8, 3, count);
   });

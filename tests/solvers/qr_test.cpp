@@ -158,7 +158,7 @@ TEST_P(QRBackSubst, EveryShapeInEveryMemory) {
     for (const auto& [w, h] : kShapes)
       for (const Memory& memory : memories())
         for (int turn = 0; turn < (w < 9 ? 3 : 1) && !HasFailure(); ++turn) {
-          const int width = w, height = h, count = one ? 1 : 1 + random.below(w < 9 ? 13 : 3);
+          const int width = w, height = h, count = one ? 1 : random.objects(turn && w < 7);
           std::vector<T> factors = random.uniforms<T>(w * h * (many ? count : 1));
           if (random.below(8) == 0) factors[random.below(int(factors.size()))] = random.below(2) ? T(0) : kNaN<T>;
           const auto model = [&](const Road&, Data<T>& d, int first, int stretch) {

@@ -176,6 +176,8 @@ class Random {
     return v;
   }
   std::vector<int> permutation(int n);
+  /// Objects of a call: a few, or enough for two turns of a loop that takes sixteen at a time, and a rest.
+  int objects(bool many) { return 1 + (many ? 32 : 0) + below(13); }
 
  private:
   std::uint32_t state;
