@@ -115,11 +115,11 @@ void combine_fixed(Op op, A a, B b, D d, int count) {
   }
 }
 
-/// An operand of N x N elements as one run, where it is one or can be made one in registers.
-template <int N, class View>
-ZELM_INLINE bool is_run(const View& v) {
+/// An operand of n x n elements as one run, where it is one or can be made one in registers.
+template <class View>
+ZELM_INLINE bool is_run(const View& v, int n) {
   if constexpr (View::constant || View::Object::turned) return true;
-  else if constexpr (View::Object::plain) return v.row_stride == N * Bytes(sizeof(typename View::T));
+  else if constexpr (View::Object::plain) return v.row_stride == n * Bytes(sizeof(typename View::T));
   else return false;
 }
 template <int N, class Object>
@@ -190,15 +190,24 @@ ZELM_INLINE void combine_rest(Op op, const A& a, const B& b, const D& d, int row
   combine_any<vectors>(op, x, y, z, rows, columns, count);
 }
 
+/// Vectors are matrices of one row.
+template <class Op, class A, class B, class D>
+ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int width, int count);
+
 template <class Op, class A, class B, class D>
 ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int width, int height, int count) {
   if (combine_tight(op, a, b, d, height, width, count)) return;
   if (combine_interleaved(op, a, b, d, height, width, count)) return;
+  // Matrices apart from each other whose rows are not: 3 x 3 floats as one vector take three stores instead of six and six shuffles.
+  if constexpr (D::array && A::Object::plain && B::Object::plain && D::Object::plain) {
+    if (width == height && width >= 3 && width <= 6 && is_run(a, width) && is_run(b, width) && is_run(d, width))
+      return combine_vectors(op, a, b, d, width * width, count);
+  }
   constexpr bool turned = (A::Object::turned || B::Object::turned) && (A::array || A::constant) && (B::array || B::constant);
   if constexpr (turned && D::array && D::Object::plain) {
     const auto in_runs = [&](auto n) ZELM_INLINE_LAMBDA {
       if constexpr (better_as_run<typename D::T, n>) {
-        if (width == n && height == n && is_run<n>(a) && is_run<n>(b) && is_run<n>(d))
+        if (width == n && height == n && is_run(a, n) && is_run(b, n) && is_run(d, n))
           return combine_runs<n>(op, a, b, d, count), true;
       }
       return false;
@@ -212,7 +221,6 @@ ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int
   else combine_fixed<6, 6>(op, a, b, d, count);
 }
 
-/// Vectors are matrices of one row.
 template <class Op, class A, class B, class D>
 ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int width, int count) {
   if constexpr (!D::array) {
@@ -243,7 +251,12 @@ ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int 
     case 6: return combine_fixed<1, 6>(op, a, b, d, count);
   }
   if constexpr (A::Object::plain && B::Object::plain && D::Object::plain) {
-    if (width == 16) return combine_fixed<1, 16>(op, a, b, d, count);
+    switch (width) {
+      case 9: return combine_fixed<1, 9>(op, a, b, d, count);
+      case 16: return combine_fixed<1, 16>(op, a, b, d, count);
+      case 25: return combine_fixed<1, 25>(op, a, b, d, count);
+      case 36: return combine_fixed<1, 36>(op, a, b, d, count);
+    }
   }
   combine_rest<true>(op, a, b, d, 1, width, count);
 }
