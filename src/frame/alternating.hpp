@@ -15,12 +15,6 @@ inline constexpr bool is_streamed<Streamed<View>> = true;
 template <class View>
 inline constexpr bool is_tight<Streamed<View>> = is_tight<View>;
 
-/// Systems of order N are solved in so many registers of objects at once, a step of each in turn: the chain of one alone leaves the
-/// processor waiting, which looks only so far ahead. Four are up to 1.5 times as fast as one, but many larger matrices then only fill
-/// the stack. Arrays with gaps spend their time elsewhere; `shared`: on one matrix for all, which need not be loaded.
-template <int N, class View, bool shared>
-inline constexpr int kAlternating = is_tight<View> ? (shared || N < 5 ? 4 : 3) : (shared ? 2 : 1);
-
 /// Vectors k, ... of N elements, in as many registers as Many has; `valid` objects in each.
 template <bool beside, class T, int M, int N, class View>
 ZELM_INLINE void load_vectors(Many<T, M> (&x)[N], const View& view, std::ptrdiff_t k, int valid) {
@@ -51,17 +45,21 @@ struct Nothing {
   ZELM_INLINE void operator()() const {}
 };
 
-/// Fills d with solutions: body(x, k, valid, halfway) makes x those from k on and calls halfway() once amid its arithmetic. There the
-/// registers of objects before it are stored, whose shuffles then have something to run beside. It saves 2 to 20 % of the time, but
-/// costs as much for vectors of three, for interleaved ones, which take no shuffles, and for doubles that lie apart or have a matrix
-/// each. The rest goes register by register.
-template <int N, bool shared, bool beside, int most = 4, class D, class Body>
+/// Fills d with solutions: body(x, k, valid, halfway) makes x those from k on. Several registers of objects take a step each in
+/// turn, since the chain of one alone leaves the processor waiting, which looks only so far ahead: up to 1.6 times as fast. Of
+/// systems that `share` one matrix four, but two where memory has gaps; of those with a matrix each `own`, as measured for the
+/// formula, but one where that is gathered element by element, which takes most of the time and much code.
+/// halfway() is called once amid the arithmetic. There the registers before are stored, whose shuffles then have something to run
+/// beside. It saves 2 to 20 % of the time, but costs as much for vectors of three, for interleaved ones, which take no shuffles,
+/// and for doubles that lie apart or have a matrix each.
+template <int N, bool share, int own, bool beside, class D, class Body>
 ZELM_INLINE void for_alternating(D d, std::ptrdiff_t count, Body body) {
   using T = typename D::T;
-  constexpr int L = Pack<T>::lanes, R = std::min(most, kAlternating<N, D, shared>);
+  constexpr int L = Pack<T>::lanes, most = share ? (is_tight<D> ? 4 : 2) : beside || D::Object::plain ? own : 1;
+  constexpr int R = D::array ? most : 1;
   constexpr std::integral_constant<int, L> full{};
   std::ptrdiff_t k = 0;
-  if constexpr (R > 1 && N > 3 && !beside && (sizeof(T) == 4 || (shared && is_tight<D>))) {
+  if constexpr (R > 1 && N > 3 && !beside && (sizeof(T) == 4 || (share && is_tight<D>))) {
     if (count >= R * L) {
       Many<T, R * L> solved[N];
       const auto store_solved = [&]() ZELM_INLINE_LAMBDA { store_vectors<beside>(solved, d, k - R * L, full); };

@@ -195,7 +195,8 @@ template <int N, bool beside, class A, class B, class D>
 void solve_each(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  for_alternating<N, false, beside>(
+  constexpr int registers = N < 5 ? 4 : 3;
+  for_alternating<N, false, registers, beside>(
       d, count, [=]<class V>(V(&x)[N], std::ptrdiff_t first, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
         V f[N][N];
         ZELM_UNROLL for (int q = 0; q < V::packs; ++q) {
@@ -293,13 +294,13 @@ ZELM_INLINE void solve_vectors(B b, const int* index, D d, int count, Apply appl
   if (permutation) {
     std::array<int, N> order;
     for (int i = 0; i < N; ++i) order[i] = load(index + i);
-    for_alternating<N, true, beside>(d, count,
-                                     [=]<class V>(V(&x)[N], std::ptrdiff_t k, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
-                                       V natural[N];
-                                       load_vectors<beside>(natural, b, k, valid);
-                                       ZELM_UNROLL for (int i = 0; i < N; ++i) x[i] = natural[order[i]];
-                                       apply(x, halfway);
-                                     });
+    for_alternating<N, true, 0, beside>(d, count,
+                                        [=]<class V>(V(&x)[N], std::ptrdiff_t k, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
+                                          V natural[N];
+                                          load_vectors<beside>(natural, b, k, valid);
+                                          ZELM_UNROLL for (int i = 0; i < N; ++i) x[i] = natural[order[i]];
+                                          apply(x, halfway);
+                                        });
   } else {
     // Entries are used as they stand: elsewhere than 0 to N - 1 they are read from memory.
     for (std::ptrdiff_t k = 0; k < count; ++k)

@@ -384,7 +384,7 @@ ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
   constexpr bool shared = std::is_same_v<F, Factors<T, N>>;
-  for_alternating<N, shared, beside>(
+  for_alternating<N, shared, 4, beside>(
       d, count, [=]<class V>(V(&x)[N], std::ptrdiff_t k, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
         load_vectors<beside>(x, b, k, valid);
         if constexpr (shared) {
