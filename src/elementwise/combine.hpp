@@ -200,7 +200,7 @@ ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int
   if (combine_interleaved(op, a, b, d, height, width, count)) return;
   // Matrices apart from each other whose rows are not: 3 x 3 floats as one vector take three stores instead of six and six shuffles.
   if constexpr (D::array && A::Object::plain && B::Object::plain && D::Object::plain) {
-    if (width == height && width >= 3 && width <= 6 && is_run(a, width) && is_run(b, width) && is_run(d, width))
+    if (width == height && better_as_vector<typename D::T>(width) && is_run(a, width) && is_run(b, width) && is_run(d, width))
       return combine_vectors(op, a, b, d, width * width, count);
   }
   constexpr bool turned = (A::Object::turned || B::Object::turned) && (A::array || A::constant) && (B::array || B::constant);
@@ -255,8 +255,9 @@ ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int 
       case 9: return combine_fixed<1, 9>(op, a, b, d, count);
       case 16: return combine_fixed<1, 16>(op, a, b, d, count);
       case 25: return combine_fixed<1, 25>(op, a, b, d, count);
-      case 36: return combine_fixed<1, 36>(op, a, b, d, count);
     }
+    if constexpr (sizeof(typename D::T) == 4)
+      if (width == 36) return combine_fixed<1, 36>(op, a, b, d, count);
   }
   combine_rest<true>(op, a, b, d, 1, width, count);
 }

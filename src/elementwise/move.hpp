@@ -52,12 +52,16 @@ template <class S, class D>
 ZELM_INLINE bool copy_small(const S& s, const D& d, int rows, int columns, std::ptrdiff_t count) {
   if (rows != 1 && rows != columns) return false;
   const Bytes row = columns * Bytes(sizeof(typename D::T));
-  if (rows > 1 && columns <= 6 && s.row_stride == row && d.row_stride == row) columns *= rows, rows = 1;
+  if (rows > 1 && better_as_vector<typename D::T>(columns) && s.row_stride == row && d.row_stride == row)
+    columns *= rows, rows = 1;
   switch (rows == 1 ? -columns : columns) {
     case -9: copy_fixed<1, 9>(s, d, count); break;
     case -16: copy_fixed<1, 16>(s, d, count); break;
     case -25: copy_fixed<1, 25>(s, d, count); break;
-    case -36: copy_fixed<1, 36>(s, d, count); break;
+    case -36:
+      if constexpr (sizeof(typename D::T) == 8) return false;
+      else copy_fixed<1, 36>(s, d, count);
+      break;
     case -3: copy_fixed<1, 3>(s, d, count); break;
     case -4: copy_fixed<1, 4>(s, d, count); break;
     case -5: copy_fixed<1, 5>(s, d, count); break;

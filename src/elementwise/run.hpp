@@ -63,6 +63,13 @@ ZELM_INLINE auto along_row(const Object& object, int i) {
   else return Same<typename Object::T>{object.element(i, 0)};
 }
 
+/// n x n elements whose rows follow each other, as one vector: saves address arithmetic, and a partly filled register for each row.
+/// Rows of doubles that fill theirs gain nothing, and 36 doubles do not fit the registers.
+template <class T>
+ZELM_INLINE bool better_as_vector(int n) {
+  return n >= 3 && n <= 6 && (sizeof(T) == 4 || n % 2 != 0);
+}
+
 /// The transpose of N x N elements as one run: fewer stores than its rows take, which is what loops wait for. Of 3 x 3 floats
 /// three instead of six, of 3 x 3 and 5 x 5 doubles five instead of six and 13 instead of 15.
 template <class T, int N>
