@@ -41,7 +41,7 @@ ZELM_INLINE void store_vectors(const Many<T, M> (&x)[N], const View& view, std::
   }
 }
 
-/// True where there are sixteen registers. With eight, small systems take up to 20 % less time by two at once than by four.
+/// True where there are sixteen registers.
 inline constexpr bool kSixteen = sizeof(void*) == 8;
 
 struct Nothing {
@@ -51,7 +51,8 @@ struct Nothing {
 /// Fills d with solutions: body(x, k, valid, halfway) makes x those from k on. Several registers of objects take a step each in
 /// turn, since the chain of one alone leaves the processor waiting, which looks only so far ahead: up to 1.6 times as fast. Of
 /// systems that `share` one matrix four, but two where memory has gaps; of those with a matrix each `own`, as measured for the
-/// formula, but one where that is gathered element by element, which takes most of the time and much code.
+/// formula, but one where that is gathered element by element, which takes most of the time and much code, and where small systems
+/// have gaps and eight registers.
 /// halfway() is called once amid the arithmetic. There the registers before are stored, whose shuffles then have something to run
 /// beside. It saves 2 to 20 % of the time, but costs as much for vectors of three, for interleaved ones, which take no shuffles,
 /// for doubles that lie apart or have a matrix each, and with eight registers.
@@ -59,7 +60,7 @@ template <int N, bool share, int own, bool beside, class D, class Body>
 ZELM_INLINE void for_alternating(D d, std::ptrdiff_t count, Body body) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes, most = share ? (is_tight<D> ? 4 : 2) : beside || D::Object::plain ? own : 1;
-  constexpr int R = !D::array ? 1 : kSixteen || N > 4 ? most : std::min(most, 2);
+  constexpr int R = !D::array ? 1 : kSixteen || N > 4 || share || is_tight<D> ? most : 1;
   constexpr std::integral_constant<int, L> full{};
   std::ptrdiff_t k = 0;
   if constexpr (R > 1 && N > 3 && !beside && (sizeof(T) == 4 || (share && is_tight<D>)) && kSixteen) {

@@ -324,7 +324,7 @@ ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
   constexpr bool shared = std::is_same_v<F, Triangle<T, N>>;
-  for_alternating<N, shared, 3, beside>(
+  for_alternating<N, shared, kSixteen ? 3 : 2, beside>(
       d, count, [=]<class V>(V(&x)[N], std::ptrdiff_t k, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
         load_vectors<beside>(x, b, k, valid);
         if constexpr (shared) {
