@@ -115,13 +115,7 @@ void combine_fixed(Op op, A a, B b, D d, int count) {
   }
 }
 
-/// An operand of n x n elements as one run, where it is one or can be made one in registers.
-template <class View>
-ZELM_INLINE bool is_run(const View& v, int n) {
-  if constexpr (View::constant || View::Object::turned) return true;
-  else if constexpr (View::Object::plain) return v.row_stride == n * Bytes(sizeof(typename View::T));
-  else return false;
-}
+/// N x N elements as one run (is_run).
 template <int N, class Object>
 ZELM_INLINE Row<typename Object::T, N * N> run_of(const Object& object) {
   using Run = Row<typename Object::T, N * N>;
@@ -192,36 +186,6 @@ ZELM_INLINE void combine_rest(Op op, const A& a, const B& b, const D& d, int row
 
 /// Vectors are matrices of one row.
 template <class Op, class A, class B, class D>
-ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int width, int count);
-
-template <class Op, class A, class B, class D>
-ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int width, int height, int count) {
-  if (combine_tight(op, a, b, d, height, width, count)) return;
-  if (combine_interleaved(op, a, b, d, height, width, count)) return;
-  // Matrices apart from each other whose rows are not: 3 x 3 floats as one vector take three stores instead of six and six shuffles.
-  if constexpr (D::array && A::Object::plain && B::Object::plain && D::Object::plain) {
-    if (width == height && better_as_vector<typename D::T>(width) && is_run(a, width) && is_run(b, width) && is_run(d, width))
-      return combine_vectors(op, a, b, d, width * width, count);
-  }
-  constexpr bool turned = (A::Object::turned || B::Object::turned) && (A::array || A::constant) && (B::array || B::constant);
-  if constexpr (turned && D::array && D::Object::plain) {
-    const auto in_runs = [&](auto n) ZELM_INLINE_LAMBDA {
-      if constexpr (better_as_run<typename D::T, n>) {
-        if (width == n && height == n && is_run(a, n) && is_run(b, n) && is_run(d, n))
-          return combine_runs<n>(op, a, b, d, count), true;
-      }
-      return false;
-    };
-    if (in_runs(std::integral_constant<int, 3>{}) || in_runs(std::integral_constant<int, 5>{})) return;
-  }
-  if (width != height || width < 3 || width > 6) combine_rest<false>(op, a, b, d, height, width, count);
-  else if (width == 3) combine_fixed<3, 3>(op, a, b, d, count);
-  else if (width == 4) combine_fixed<4, 4>(op, a, b, d, count);
-  else if (width == 5) combine_fixed<5, 5>(op, a, b, d, count);
-  else combine_fixed<6, 6>(op, a, b, d, count);
-}
-
-template <class Op, class A, class B, class D>
 ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int width, int count) {
   if constexpr (!D::array) {
     const auto x = a.object(0);
@@ -260,6 +224,30 @@ ZELM_INLINE void combine_vectors(Op op, const A& a, const B& b, const D& d, int 
       if (width == 36) return combine_fixed<1, 36>(op, a, b, d, count);
   }
   combine_rest<true>(op, a, b, d, 1, width, count);
+}
+
+template <class Op, class A, class B, class D>
+ZELM_INLINE void combine_matrices(Op op, const A& a, const B& b, const D& d, int width, int height, int count) {
+  if (combine_tight(op, a, b, d, height, width, count)) return;
+  if (combine_interleaved(op, a, b, d, height, width, count)) return;
+  if constexpr (D::array && A::Object::plain && B::Object::plain && D::Object::plain)
+    if (better_as_vectors<typename D::T>(height, width, a, b, d)) return combine_vectors(op, a, b, d, width * width, count);
+  constexpr bool turned = (A::Object::turned || B::Object::turned) && (A::array || A::constant) && (B::array || B::constant);
+  if constexpr (turned && D::array && D::Object::plain) {
+    const auto in_runs = [&](auto n) ZELM_INLINE_LAMBDA {
+      if constexpr (better_as_run<typename D::T, n>) {
+        if (width == n && height == n && is_run(a, n) && is_run(b, n) && is_run(d, n))
+          return combine_runs<n>(op, a, b, d, count), true;
+      }
+      return false;
+    };
+    if (in_runs(std::integral_constant<int, 3>{}) || in_runs(std::integral_constant<int, 5>{})) return;
+  }
+  if (width != height || width < 3 || width > 6) combine_rest<false>(op, a, b, d, height, width, count);
+  else if (width == 3) combine_fixed<3, 3>(op, a, b, d, count);
+  else if (width == 4) combine_fixed<4, 4>(op, a, b, d, count);
+  else if (width == 5) combine_fixed<5, 5>(op, a, b, d, count);
+  else combine_fixed<6, 6>(op, a, b, d, count);
 }
 
 /// A constant by value is an operand like any other.

@@ -51,9 +51,7 @@ __attribute__((noinline)) void copy_fixed(const S& sources, const D& destination
 template <class S, class D>
 ZELM_INLINE bool copy_small(const S& s, const D& d, int rows, int columns, std::ptrdiff_t count) {
   if (rows != 1 && rows != columns) return false;
-  const Bytes row = columns * Bytes(sizeof(typename D::T));
-  if (rows > 1 && better_as_vector<typename D::T>(columns) && s.row_stride == row && d.row_stride == row)
-    columns *= rows, rows = 1;
+  if (better_as_vectors<typename D::T>(rows, columns, s, d)) columns *= rows, rows = 1;
   switch (rows == 1 ? -columns : columns) {
     case -9: copy_fixed<1, 9>(s, d, count); break;
     case -16: copy_fixed<1, 16>(s, d, count); break;

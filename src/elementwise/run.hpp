@@ -63,11 +63,18 @@ ZELM_INLINE auto along_row(const Object& object, int i) {
   else return Same<typename Object::T>{object.element(i, 0)};
 }
 
-/// n x n elements whose rows follow each other, as one vector: saves address arithmetic, and a partly filled register for each row.
-/// Rows of doubles that fill theirs gain nothing, and 36 doubles do not fit the registers.
-template <class T>
-ZELM_INLINE bool better_as_vector(int n) {
-  return n >= 3 && n <= 6 && (sizeof(T) == 4 || n % 2 != 0);
+/// An operand of n x n elements as one run, where it is one or can be made one in registers.
+template <class View>
+ZELM_INLINE bool is_run(const View& v, int n) {
+  if constexpr (View::constant || View::Object::turned) return true;
+  else if constexpr (View::Object::plain) return v.row_stride == n * Bytes(sizeof(typename View::T));
+  else return false;
+}
+/// True of small square matrices whose rows follow each other, whatever lies between the matrices: as vectors 3 x 3 floats take three
+/// stores instead of six and six shuffles. Rows of doubles that fill their registers gain nothing, and 36 doubles do not fit them.
+template <class T, class... Views>
+ZELM_INLINE bool better_as_vectors(int rows, int columns, const Views&... views) {
+  return rows == columns && rows >= 3 && rows <= 6 && (sizeof(T) == 4 || rows % 2 != 0) && (... && is_run(views, columns));
 }
 
 /// The transpose of N x N elements as one run: fewer stores than its rows take, which is what loops wait for. Of 3 x 3 floats

@@ -41,9 +41,10 @@ ZELM_INLINE void store_vectors(const Many<T, M> (&x)[N], const View& view, std::
   }
 }
 
-/// True where there are sixteen registers.
-inline constexpr bool kSixteen = sizeof(void*) == 8;
+/// Not eight, as in 32 bits.
+inline constexpr bool kSixteenRegisters = sizeof(void*) == 8;
 
+/// Nothing to do halfway.
 struct Nothing {
   ZELM_INLINE void operator()() const {}
 };
@@ -59,11 +60,13 @@ struct Nothing {
 template <int N, bool share, int own, bool beside, class D, class Body>
 ZELM_INLINE void for_alternating(D d, std::ptrdiff_t count, Body body) {
   using T = typename D::T;
-  constexpr int L = Pack<T>::lanes, most = share ? (is_tight<D> ? 4 : 2) : beside || D::Object::plain ? own : 1;
-  constexpr int R = !D::array ? 1 : kSixteen || N > 4 || share || is_tight<D> ? most : 1;
+  constexpr bool gaps = !is_tight<D>, gathered = !beside && !D::Object::plain;
+  constexpr bool alone = !D::array || (!share && (gathered || (gaps && N < 5 && !kSixteenRegisters)));
+  constexpr int L = Pack<T>::lanes, R = alone ? 1 : !share ? own : gaps ? 2 : 4;
+  constexpr bool halfway_pays = R > 1 && N > 3 && kSixteenRegisters && !beside && (sizeof(T) == 4 || (share && !gaps));
   constexpr std::integral_constant<int, L> full{};
   std::ptrdiff_t k = 0;
-  if constexpr (R > 1 && N > 3 && !beside && (sizeof(T) == 4 || (share && is_tight<D>)) && kSixteen) {
+  if constexpr (halfway_pays) {
     if (count >= R * L) {
       Many<T, R * L> solved[N];
       const auto store_solved = [&]() ZELM_INLINE_LAMBDA { store_vectors<beside>(solved, d, k - R * L, full); };

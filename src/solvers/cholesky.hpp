@@ -324,7 +324,8 @@ ZELM_INLINE void solve_blocks(const F& factors, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
   constexpr bool shared = std::is_same_v<F, Triangle<T, N>>;
-  for_alternating<N, shared, kSixteen ? 3 : 2, beside>(
+  constexpr int own = kSixteenRegisters ? 3 : 2;  // with four, order 4 takes up to a fifth more time
+  for_alternating<N, shared, own, beside>(
       d, count, [=]<class V>(V(&x)[N], std::ptrdiff_t k, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
         load_vectors<beside>(x, b, k, valid);
         if constexpr (shared) {

@@ -195,8 +195,8 @@ template <int N, bool beside, class A, class B, class D>
 void solve_each(A a, const int* index, B b, D d, int count) {
   using T = typename D::T;
   constexpr int L = Pack<T>::lanes;
-  constexpr int registers = N < 5 ? 4 : 3;
-  for_alternating<N, false, registers, beside>(
+  constexpr int own = N < 5 ? 4 : 3;
+  for_alternating<N, false, own, beside>(
       d, count, [=]<class V>(V(&x)[N], std::ptrdiff_t first, auto valid, auto halfway) ZELM_INLINE_LAMBDA {
         V f[N][N];
         ZELM_UNROLL for (int q = 0; q < V::packs; ++q) {
